@@ -1,0 +1,8 @@
+#include "core/settings.h"
+
+namespace tarnvik {
+
+void ReadSettingsFile() {}
+void WriteSettingsFile() {}
+
+}  // namespace tarnvik

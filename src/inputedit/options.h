@@ -1,0 +1,40 @@
+// Selectivity and fitting options: what the check boxes and option groups of frmInput do to phases, labels, grids
+// and the frames of frmPin. Each rule runs in a click handler; a reader that sets a value runs it too.
+#pragma once
+
+namespace tarnvik {
+
+void frmInput_chkEstimate_Click(int index);
+void frmInput_chkEstimateLogRec_Click(int);
+void frmInput_chkEstimateRecDev_Click(int);
+void frmInput_chkEstimateFMort_Click(int);
+void frmInput_chkEstimateFMortDev_Click(int);
+void frmInput_chkEstimateFishGamma_Click(int);
+void frmInput_chkEstimateFishBeta_Click(int);
+void frmInput_chkEstimateFishA50_Click(int);
+void frmInput_chkFishSelNonParEst_Click(int);
+void frmInput_chkSurvSelParEst_Click(int index);
+void frmInput_chkSurvSelNonParEst_Click(int);
+void frmInput_opFSelModel_Click(int);
+void frmInput_opSurvSelModel_Click(int);
+void frmInput_opFishSelParametric_Click(int);
+void frmInput_opSurvSelParametric_Click(int);
+void frmInput_opFishSelNonPar_Click(int);
+void frmInput_chkShrink_Click(int);
+void frmInput_opBoot_Click(int);
+void frmInput_chkFitFishCPUE_Click(int);
+void frmInput_chkSurvFit_Click(int);
+void frmInput_listSurvSample_Click(int);
+void frmInput_txtFishSelAge_LostFocus(int);
+
+// Sets the fishery frames of frmPin, swaps ORVFlexGrid(11) and txtFishSelAge, hides or shows the log gamma row.
+void ApplyFishSelModel();
+// Sets the survey frames of frmPin, hides or shows the log gamma row.
+void ApplySurvSelModel();
+// Colour and clear frmPin grids 4, 7 and 6 by the counts of ages to estimate; an invalid count is reset with one
+// warning. Only cells that exist are touched.
+void PaintFishPeriodGrid();
+void PaintFishAnnualGrid();
+void PaintSurvGrid();
+
+}  // namespace tarnvik

@@ -1,0 +1,8 @@
+#include "inputedit/validation.h"
+
+namespace tarnvik {
+
+void ValidateInputData() {}
+void ValidateParameters() {}
+
+}  // namespace tarnvik

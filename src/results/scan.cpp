@@ -1,0 +1,9 @@
+#include "results/scan.h"
+
+namespace tarnvik {
+
+void ScanReportFile() {}
+void ScanStdFile() {}
+void ScanParFile() {}
+
+}  // namespace tarnvik
