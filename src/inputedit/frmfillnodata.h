@@ -7,10 +7,10 @@ namespace tarnvik {
 
 struct FillNoDataForm : Form {
   FillNoDataForm();
-  Label Label1{this, "Label1"};      // "Current Grid:"
+  Label Label1{this, "Label1"};  // "Current Grid:"
   TextBox txtWhichGrid{this, "txtWhichGrid"};
   Label lblExplain{this, "lblExplain"};  // what will be done
-  Label lblNote{this, "lblNote"};
+  Label lblNote{this, "lblNote"};        // what values will do
   TextBox txtDataVal{this, "txtDataVal"};
   CommandButton cmdOK{this, "cmdOK"};
   CommandButton cmdCancel{this, "cmdCancel"};
@@ -18,6 +18,7 @@ struct FillNoDataForm : Form {
 
 inline FormOf<FillNoDataForm> frmFillNoData{"frmFillNoData"};
 
+// Fills the grid named in txtWhichGrid with the text of txtDataVal and closes the dialog.
 void frmFillNoData_cmdOK_Click(int);
 void frmFillNoData_cmdCancel_Click(int);
 
