@@ -58,14 +58,20 @@ FormSlot* FindForm(std::string_view name) {
 
 bool UnloadForm(FormSlot& slot, UnloadMode mode) {
   Form* record = slot.Record();
-  if (!record) return true;
+  if (!record || slot.unloading_) return true;
   EventScope event;
   bool cancel = false;
   record->QueryUnload(cancel, mode);
   if (slot.Record() != record) return true;  // a handler of the query has unloaded it already
   if (cancel) return false;
-  record->Unload();
-  if (slot.Record() != record) return true;
+  {
+    slot.unloading_ = true;
+    const struct EndOfUnload {
+      bool& unloading;
+      ~EndOfUnload() { unloading = false; }
+    } end{slot.unloading_};
+    record->Unload();
+  }
   std::erase(LoadedSlots(), &slot);
   const bool was_shown = record->Shown;
   record->Shown = false;

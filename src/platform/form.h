@@ -76,6 +76,7 @@ class FormSlot {
   friend bool UnloadForm(FormSlot& slot, UnloadMode mode);
   std::string name_;
   std::unique_ptr<Form> record_;
+  bool unloading_ = false;  // its unload handler is running
 };
 
 template <class T>
@@ -97,8 +98,9 @@ const std::vector<FormSlot*>& LoadedForms();
 FormSlot* FindForm(std::string_view name);
 
 // Unloads a form: its query handler, which may cancel, its unload handler, then the record goes. Of a form that is
-// not loaded nothing happens. False when the query handler cancelled. A record that is unloaded during an event
-// stays in memory until the outermost event has ended, since a handler of its own may be running.
+// not loaded nothing happens, nor of one whose unload handler is running: forms that go together unload one another.
+// False when the query handler cancelled. A record that is unloaded during an event stays in memory until the
+// outermost event has ended, since a handler of its own may be running.
 bool UnloadForm(FormSlot& slot, UnloadMode mode = UnloadMode::ByCode);
 
 // Shows a form, loading it if need be, brings it to the front and runs its Activate handler.

@@ -1,0 +1,54 @@
+// frmSTD "Output Parameters": the state record of the estimated parameters and their standard deviations.
+#pragma once
+
+#include "platform/chart.h"
+#include "platform/form.h"
+#include "platform/grid.h"
+
+namespace tarnvik {
+
+struct StdForm : Form {
+  StdForm();
+  void Load() override;    // frmSTD_Form_Load
+  void Unload() override;  // frmSTD_Form_Unload
+
+  // Point estimates and M, deviations, plot of recruitment deviations, plot of F deviations, selectivity and
+  // surveys.
+  TabStrip SSTab1{this, "SSTab1"};
+
+  Frame FramePoint{this, "FramePoint"};
+  ControlArray<Label> lblHeading{this, "lblHeading", {0, 1, 2}};  // the headings of the three columns below
+  // 0 M, 1 mean log recruitment, 2 log of average F, 3 CPUE q, 4 CPUE exponent, 5 mean recruitment.
+  ControlArray<Label> lbl1{this, "lbl1", {0, 1, 2, 3, 4, 5}};
+  ControlArray<Label> lblEst{this, "lblEst", {0, 1, 2, 3, 4, 5}};
+  ControlArray<Label> lblStd{this, "lblStd", {0, 1, 2, 3, 4, 5}};
+
+  // 0 recruitment deviations, 1 F deviations, 2 fishery selectivity parameters, 3 survey parameters, 4 M
+  // multiplier, 5 M at age; the frame of a table has its index.
+  ControlArray<Frame> FrameGrid{this, "FrameGrid", {0, 1, 2, 3, 4, 5}};
+  ControlArray<Grid> MSFlexGrid{this, "MSFlexGrid", {0, 1, 2, 3, 4, 5}};
+
+  // Charts with their bands of standard deviations: 1 recruitment deviations, 2 F deviations.
+  Chart Chart19{this, "Chart19"};
+  Chart Chart20{this, "Chart20"};
+  ControlArray<Frame> FrameSTD{this, "FrameSTD", {1, 2}};
+  ControlArray<Label> lblSTDlevels{this, "lblSTDlevels", {1, 2}};
+  ControlArray<Label> lblSTDplus{this, "lblSTDplus", {1, 2}};
+  ControlArray<TextBox> txtSTDplus{this, "txtSTDplus", {1, 2}};
+  ControlArray<Label> lblSTDminus{this, "lblSTDminus", {1, 2}};
+  ControlArray<TextBox> txtSTDminus{this, "txtSTDminus", {1, 2}};
+  CommandButton cmdPlot19{this, "cmdPlot19"};
+  CommandButton cmdPlot20{this, "cmdPlot20"};
+
+ private:
+  void Design();
+};
+
+inline FormOf<StdForm> frmSTD{"frmSTD"};
+
+// Brings the first page to the front.
+void frmSTD_Form_Load();
+// Clears StdFileRead and ParFileRead.
+void frmSTD_Form_Unload();
+
+}  // namespace tarnvik
