@@ -7,7 +7,6 @@ void frmInput_cmbNXYear_Click(int) {}
 void frmInput_cmbNAges_Click(int) {}
 void frmInput_cmbSelPer_Click(int) {}
 void frmInput_cmbRecYr_Click(int) {}
-void FillGeneralCombos() {}
 void RefreshYearCombos() {}
 std::int16_t RecDevStartYear() { return 0; }
 void ApplyYearChange() {}
