@@ -1,8 +1,0 @@
-#include "inputedit/validation.h"
-
-namespace tarnvik {
-
-void ValidateInputData() {}
-void ValidateParameters() {}
-
-}  // namespace tarnvik
