@@ -58,15 +58,22 @@ struct MainForm : Form {
   MenuItem mnuHelpUsing{this, "mnuHelpUsing"};
   MenuItem mnuHelpSpc2{this, "mnuHelpSpc2"};
   MenuItem mnuHelpRefMan{this, "mnuHelpRefMan"};
-  StatusBar StatusBar1{this, "StatusBar1", 3};  // panels: 1 date and time, 2 message, 3 free
+  StatusBar StatusBar1{this, "StatusBar1", 3};  // panels: 1 date, 2 message, 3 time
 
   std::string HelpFile;
 };
 
 inline FormOf<MainForm> frmMain{"frmMain"};
 
+// The start of the program: menus, flags, ranges, settings, default names, frmInput.
+void frmMain_MDIForm_Load();
+// The main window is closing: asks every child, any of which may cancel, then unloads them all.
+void frmMain_MDIForm_QueryUnload(bool& cancel);
+
 // Disable mnuModelScan, mnuViewReport, mnuViewStdDev, mnuViewOutPar and mnuViewPlotCollect: there are no results.
 void DisableResultMenus();
+// Enable the same five: the results on disk belong to the case.
+void EnableResultMenus();
 // Unload frmOutput, frmSTD and frmOutputData.
 void UnloadResultForms();
 

@@ -5,16 +5,10 @@
 
 namespace tarnvik {
 
-// The names of all files that the model can leave in its working folder.
-inline constexpr int kModelOutputCount = 30;
-extern std::string ModelOutputNames[kModelOutputCount];
-
-// Saves the case, clears old output, runs the model, collects what it left, scans it. Sets ModelRunOK.
+// Saves the case, clears old output, runs the model, collects what it left, scans it. Reads frmInput's labels; sets
+// ModelRunOK, FilesSaved, the paths; moves the current folder to the case's and leaves it there. Shows its own
+// messages, that of any run-time error included.
 void RunModel();
-// Removes the output of an earlier run; errors end it silently.
-void DeleteModelOutput();
-// Tests for the model's files and copies them to the case's names. Sets ModelRunOK, ReportPath, StdPath, ParPath.
-void CollectModelOutput();
 // "True" or "False": whether a path, trimmed, holds no blank.
 std::string PathHasNoSpaces(const std::string& path);
 

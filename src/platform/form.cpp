@@ -56,14 +56,19 @@ FormSlot* FindForm(std::string_view name) {
   return nullptr;
 }
 
-bool UnloadForm(FormSlot& slot, UnloadMode mode) {
+bool AskToUnload(FormSlot& slot, UnloadMode mode) {
   Form* record = slot.Record();
-  if (!record || slot.unloading_) return true;
+  if (!record || slot.Unloading()) return true;
   EventScope event;
   bool cancel = false;
   record->QueryUnload(cancel, mode);
-  if (slot.Record() != record) return true;  // a handler of the query has unloaded it already
-  if (cancel) return false;
+  return !cancel;
+}
+
+void UnloadWithoutAsking(FormSlot& slot) {
+  Form* record = slot.Record();
+  if (!record || slot.Unloading()) return;  // forms of one family unload one another
+  EventScope event;
   {
     slot.unloading_ = true;
     const struct EndOfUnload {
@@ -73,16 +78,23 @@ bool UnloadForm(FormSlot& slot, UnloadMode mode) {
     record->Unload();
   }
   std::erase(LoadedSlots(), &slot);
-  const bool was_shown = record->Shown;
-  record->Shown = false;
   if (front_form == &slot) {
     front_form = nullptr;
     for (FormSlot* other : LoadedSlots()) {
       if (other->Record()->Shown) front_form = other;
     }
   }
-  if (was_shown) TheHost().FormUnloaded(*record);
+  if (record->Shown) TheHost().FormUnloaded(*record);
+  record->Shown = false;
   unloaded_records.push_back(std::move(slot.record_));
+}
+
+bool UnloadForm(FormSlot& slot, UnloadMode mode) {
+  EventScope event;
+  const Form* record = slot.Record();
+  if (!AskToUnload(slot, mode)) return slot.Record() != record;
+  // The question may have led to the form being unloaded, or even loaded anew.
+  if (slot.Record() == record) UnloadWithoutAsking(slot);
   return true;
 }
 

@@ -67,16 +67,17 @@ class FormSlot {
   bool Loaded() const { return record_ != nullptr; }
   Form* Record() const { return record_.get(); }
   Form& Touch();  // loads the form when it is not loaded
+  bool Unloading() const { return unloading_; }  // its unload handler is running
 
  protected:
   virtual ~FormSlot() = default;
   virtual std::unique_ptr<Form> Create() const = 0;
 
  private:
-  friend bool UnloadForm(FormSlot& slot, UnloadMode mode);
+  friend void UnloadWithoutAsking(FormSlot& slot);
   std::string name_;
   std::unique_ptr<Form> record_;
-  bool unloading_ = false;  // its unload handler is running
+  bool unloading_ = false;
 };
 
 template <class T>
@@ -102,6 +103,10 @@ FormSlot* FindForm(std::string_view name);
 // False when the query handler cancelled. A record that is unloaded during an event stays in memory until the
 // outermost event has ended, since a handler of its own may be running.
 bool UnloadForm(FormSlot& slot, UnloadMode mode = UnloadMode::ByCode);
+
+// The two halves of the above, for the main window: it asks every child before it unloads the first.
+bool AskToUnload(FormSlot& slot, UnloadMode mode);  // false when the query handler cancelled
+void UnloadWithoutAsking(FormSlot& slot);
 
 // Shows a form, loading it if need be, brings it to the front and runs its Activate handler.
 void ActivateForm(FormSlot& slot);
