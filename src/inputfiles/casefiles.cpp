@@ -1,16 +1,46 @@
 #include "inputfiles/casefiles.h"
 
+#include "core/frmmain.h"
+#include "core/globals.h"
+#include "inputedit/frminput.h"
+#include "inputfiles/datafile.h"
+#include "inputfiles/paramfile.h"
+#include "plots/plots.h"
+
 namespace tarnvik {
 
-void WriteControlFile() {}
-void SaveControlFileAs() {}
-void SaveAllInputFiles() {}
-void SaveAllWithRootName() {}
-void OpenControlFile() {}
-void ReadControlFile() {}
-void CheckResultsCurrent() {}
-void frmInput_cmdBrowseCTL_Click(int) {}
-void frmInput_cmdBrowse1_Click(int) {}
-void frmInput_cmdBrowse2_Click(int) {}
+void CloseInputPlots() {
+  UnloadForm(frmPlotInput);
+  frmMain->mnuDataPlotInput.SetEnabled(false);
+}
+
+void CloseResults() {
+  if (OutputFormsOpen == kTrue || StdFileRead == kTrue || ParFileRead == kTrue) UnloadResultForms();
+  frmMain->mnuModelScan.SetEnabled(false);
+}
+
+void frmInput_cmdBrowseCTL_Click(int) {
+  DisableResultMenus();
+  CaseOpenPending = kFalse;
+  OpenControlFile();
+  frmInput->SSTab1.SetTab(kTabGeneral);
+  ActivateForm(frmInput);
+}
+
+void frmInput_cmdBrowse1_Click(int) {
+  DisableResultMenus();
+  CaseOpenPending = kFalse;
+  OpenParameterFile();
+  CtlFileOpen = kFalse;
+  CheckResultsCurrent();
+}
+
+void frmInput_cmdBrowse2_Click(int) {
+  DisableResultMenus();
+  CaseOpenPending = kFalse;
+  OpenDataFile();
+  CtlFileOpen = kFalse;
+  CheckResultsCurrent();
+}
 
 }  // namespace tarnvik

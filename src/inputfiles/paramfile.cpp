@@ -1,10 +1,47 @@
 #include "inputfiles/paramfile.h"
 
+#include "core/frmmain.h"
+#include "core/globals.h"
+#include "inputedit/frminput.h"
+#include "inputedit/frmpin.h"
+#include "inputfiles/casefiles.h"
+#include "inputfiles/save_names.h"
+#include "plots/plots.h"
+
 namespace tarnvik {
 
-void ReadParameterFile() {}
-void WriteParameterFile() {}
-void SaveParameterFileAs() {}
-void OpenParameterFile() {}
+namespace {
+
+constexpr const char* kFilter = "Parameter Input Files (*.pin)|*.pin";
+
+}  // namespace
+
+void SaveParameterFileAs() {
+  const auto name = AskSaveName(
+      {.save = true, .title = "Save Input Parameter File", .filter = kFilter, .default_extension = "pin"});
+  if (!name) return;
+  PinFilePath = *name;
+  ShowPath(frmInput->lblFile(0), PinFilePath);
+  WriteParameterFile();
+}
+
+void OpenParameterFile() {
+  frmInput->SSTab1.SetTab(kTabGeneral);
+  const auto name =
+      TheHost().ShowFileDialog({.title = "Open Statistical Catch at Age Model Initial Parameters File",
+                                .filter = kFilter,
+                                .default_extension = ""});
+  if (!name) return;
+  CloseInputPlots();
+  CloseResults();
+  if (!name->empty()) {
+    PinFileOpen = kFalse;
+    UnloadForm(frmPin);
+    PinFilePath = *name;
+    ReadParameterFile();
+  }
+  BringFormToFront(frmInput);
+  frmInput->SSTab1.SetTab(kTabGeneral);
+}
 
 }  // namespace tarnvik
