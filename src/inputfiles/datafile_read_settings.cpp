@@ -1,0 +1,260 @@
+// Reader of the data file: tables at age, coefficients, emphasis factors, flags, phases.
+
+#include "core/globals.h"
+#include "inputedit/dimensions.h"
+#include "inputedit/grids.h"
+#include "inputedit/options.h"
+#include "inputfiles/datafile_read.h"
+
+namespace tarnvik {
+
+namespace {
+
+void ReadAtAge(Grid& grid) {
+  for (int row = 1; row <= NYears; ++row) ReadRow(grid, row, 1, NAges);
+}
+
+// Before version 1.4 the stock weights served as spawning weights.
+void CopyAtAge(const Grid& from, Grid& to) {
+  for (int row = 1; row <= NYears; ++row) {
+    for (int age = 1; age <= NAges; ++age) to.SetTextMatrix(row, age, from.TextMatrix(row, age));
+  }
+}
+
+void ReadEmphasis(InputForm& form, double version) {
+  if (version >= 1.4) ReadField(form.txtEstimate(0));
+  for (const int coefficient : {1, 2, 3}) ReadField(form.txtVarCoeff(coefficient));
+  ReadField(form.txtLikelihood(1));
+  if (version >= 1.2) {
+    ReadField(form.txtLikelihood(0));
+  } else {
+    form.txtLikelihood(0).SetText("1");
+  }
+  ReadField(form.txtLikelihood(2));
+  ReadColumn(form.ORVFlexGrid(9), 1, NIndex);
+  ReadColumn(form.ORVFlexGrid(9), 2, NIndex);
+  for (const int emphasis : {3, 4, 5}) ReadField(form.txtLikelihood(emphasis));
+}
+
+void ReadShrinkage(InputForm& form, double version) {
+  if (version >= 1.4) {
+    ReadField(form.txtShrink);
+    ReadField(form.txtShrinkFactor);
+  } else {
+    form.txtShrink.SetText("0");
+    form.txtShrinkFactor.SetText("1");
+  }
+  form.chkShrink.SetValue(Val(form.txtShrink.Text()) == 0.0 ? 0 : 1);
+}
+
+void ReadBootstrap(InputForm& form, double version) {
+  if (version >= 1.4) {
+    ReadField(form.txtNBoot);
+    ReadField(form.txtBootSeed);
+  } else {
+    form.txtNBoot.SetText("0");
+    form.txtBootSeed.SetText("123456");
+  }
+  form.opBoot(Val(form.txtNBoot.Text()) == 0.0 ? 0 : 1).SetValue(true);
+}
+
+// Checks an item or not; its label and field are turned on and off with it.
+void PutEstimate(const EstimatePair& item, bool estimated) {
+  item.check->SetValue(estimated ? 1 : 0);
+  item.label->SetEnabled(estimated);
+  item.phase->SetVisible(estimated);
+}
+
+// The items that share one array, by their index.
+EstimatePair Estimate(InputForm& form, int index) {
+  return {&form.chkEstimate(index), &form.lblEstimate(index), &form.txtEstimate(index)};
+}
+
+// The value is the number of the prior, from 1; before version 1.4 it is the phase.
+void ReadEstimateM(InputForm& form, double version) {
+  const int value = ValInt(ReadDataLine());
+  const bool estimated = value > 0;
+  PutEstimate(Estimate(form, 1), estimated);
+  form.cmbMType.SetEnabled(estimated);
+  if (version < 1.4) {
+    form.txtEstimate(1).SetText(estimated ? NumberText(value) : "");
+  } else if (estimated) {
+    form.cmbMType.SetListIndex(value - 1);
+  }
+}
+
+void ReadEstimatedMeans(InputForm& form, double version) {
+  const EstimatePair items[] = {
+      {&form.chkEstimateLogRec, &form.lblPhaseLogRec, &form.txtPhaseLogRec},
+      {&form.chkEstimateRecDev, &form.lblPhaseRecDev, &form.txtPhaseRecDev},
+      {&form.chkEstimateFMort, &form.lblPhaseFMort, &form.txtPhaseFMort},
+      {&form.chkEstimateFMortDev, &form.lblPhaseFMortDev, &form.txtPhaseFMortDev},
+  };
+  for (const EstimatePair& item : items) PutEstimate(item, version < 1.4 || Val(ReadDataLine()) != 0.0);
+}
+
+// Of versions 1.2 and 1.3 a negative value is no fit, from 1.4 on every value but 0 is one.
+bool ReadFitCpue(double version) {
+  if (version < 1.2) return false;
+  const double value = Val(ReadDataLine());
+  return version >= 1.4 ? value != 0.0 : value > 0.0;
+}
+
+// A flag that was a phase before version 1.4.
+void ReadEstimateOrPhase(InputForm& form, int index, double version) {
+  const int value = ValInt(ReadDataLine());
+  PutEstimate(Estimate(form, index), value > 0);
+  if (value <= 0) {
+    form.txtEstimate(index).SetText("");
+  } else if (version < 1.4) {
+    form.txtEstimate(index).SetText(NumberText(value));
+  }
+}
+
+void ReadCpueOptions(InputForm& form, double version) {
+  form.chkFitFishCPUE.SetValue(ReadFitCpue(version) ? 1 : 0);
+  const bool numbers = version >= 1.2 && ValInt(ReadDataLine()) == 1;
+  form.opCPUEtype(numbers ? 1 : 0).SetValue(true);
+  if (version >= 1.2) {
+    ReadEstimateOrPhase(form, 10, version);
+    ReadEstimateOrPhase(form, 11, version);
+  } else {
+    PutEstimate(Estimate(form, 10), true);
+  }
+}
+
+void ReadMarks(ListBox& list) {
+  LineWords words(ReadDataLine());
+  for (int survey = 1; survey <= NIndex; ++survey) list.SetSelected(survey - 1, IsOne(words.Next()));
+}
+
+void ReadSurveyOptions(InputForm& form, double version) {
+  if (version >= 1.4) {
+    LineWords words(ReadDataLine());
+    for (int survey = 1; survey <= NIndex; ++survey) SurvParametric(survey) = IsOne(words.Next()) ? 1 : 0;
+  }
+  RefreshSurveyLists(4);
+  if (version >= 1.2) ReadMarks(form.listSurvFit);
+  PutEstimate(Estimate(form, 2), ValInt(ReadDataLine()) > 0);
+  if (version < 1.4) form.txtEstimate(2).SetText("6");
+  const int exponent = ValInt(ReadDataLine());
+  PutEstimate(Estimate(form, 3), exponent > 0);
+  if (version < 1.4) form.txtEstimate(3).SetText(exponent > 0 ? NumberText(exponent) : "");
+}
+
+void ReadSelectivityShapes(InputForm& form) {
+  form.opFishSelParametric(IsOne(TokenFirst(ReadDataLine())) ? 0 : 1).SetValue(true);
+  ApplyFishSelModel();
+  form.opSurvSelParametric(IsOne(TokenFirst(ReadDataLine())) ? 0 : 1).SetValue(true);
+  ApplySurvSelModel();
+}
+
+void ReadSampleSizes(InputForm& form) {
+  PutEstimate(Estimate(form, 4), IsOne(ReadDataLine()));
+  form.txtEstimate(4).SetText("");
+  ReadMarks(form.listSurvSample);
+  form.listSurvSample.SetListIndex(-1);
+}
+
+void ReadInitialF(InputForm& form) {
+  PutEstimate(Estimate(form, 5), IsOne(ReadDataLine()));
+  NewRecYr = RecDevStartYear();
+  ReadField(form.txtEstimate(5));
+}
+
+void ReadCriteria(InputForm& form) {
+  const bool estimated = IsOne(ReadDataLine());
+  form.chkEstimate(6).SetValue(estimated ? 1 : 0);
+  for (const int criterion : {12, 13, 14, 15}) {
+    form.lblEstimate(criterion).SetEnabled(estimated);
+    form.txtEstimate(criterion).SetVisible(estimated);
+    ReadField(form.txtEstimate(criterion));
+  }
+}
+
+// A phase below 0 says that the item is not estimated; its field is empty then. Returns whether it is
+// estimated.
+bool ReadPhase(TextBox& field) {
+  const std::string_view line = Trim(ReadDataLine());
+  const bool estimated = Val(line) >= 0.0;
+  field.SetText(estimated ? line : std::string_view());
+  return estimated;
+}
+
+void ReadPhase(CheckBox& box, TextBox& field) { box.SetValue(ReadPhase(field) ? 1 : 0); }
+
+// The same pair of controls serves the phase by period (option 0) and the annual one (option 1).
+void ReadNonparametricPhase(InputForm& form, int option) {
+  const std::string_view line = Trim(ReadDataLine());
+  const bool parametric = form.opFSelModel(0).Value();
+  if (!parametric && !form.opFishSelNonPar(option).Value()) return;
+  const bool estimated = !parametric && Val(line) >= 0.0;
+  form.chkFishSelNonParEst.SetValue(estimated ? 1 : 0);
+  form.txtPhaseFSelNonPar.SetText(estimated ? line : std::string_view());
+}
+
+void ReadPhases(InputForm& form) {
+  ReadPhase(form.txtEstimate(1));
+  ReadPhase(form.txtPhaseLogRec);
+  ReadPhase(form.txtPhaseRecDev);
+  ReadPhase(form.txtPhaseFMort);
+  ReadPhase(form.txtPhaseFMortDev);
+  ReadPhase(form.txtEstimate(10));
+  ReadPhase(form.txtEstimate(11));
+  ReadPhase(form.chkEstimateFishGamma, form.txtPhaseFishGamma);
+  ReadPhase(form.chkEstimateFishBeta, form.txtPhaseFishBeta);
+  ReadPhase(form.chkEstimateFishA50, form.txtPhaseFishA50);
+  ReadNonparametricPhase(form, 0);
+  ReadNonparametricPhase(form, 1);
+  ReadPhase(form.txtEstimate(4));
+  ReadPhase(form.txtEstimate(2));
+  ReadPhase(form.txtEstimate(3));
+  for (const int parameter : {0, 1, 2}) {
+    ReadPhase(form.chkSurvSelParEst(parameter), form.txtSurvSelParEst(parameter));
+  }
+  ReadPhase(form.chkSurvSelNonParEst, form.txtSurvSelNonParEst);
+  ReadPhase(form.txtEstSurvSample);
+}
+
+}  // namespace
+
+void ReadBiologyLines(InputForm& form, double version) {
+  ReadAtAge(form.ORVFlexGrid(6));
+  ReadAtAge(form.ORVFlexGrid(4));
+  if (version >= 1.4) {
+    ReadAtAge(form.ORVFlexGrid(14));
+  } else {
+    CopyAtAge(form.ORVFlexGrid(4), form.ORVFlexGrid(14));
+  }
+  ReadField(form.txtFractionZ);
+  ReadAtAge(form.ORVFlexGrid(7));
+  if (version >= 1.4) {
+    ReadColumn(form.ORVFlexGrid(13), 1, NAges);
+  } else {
+    for (int age = 1; age <= NAges; ++age) form.ORVFlexGrid(13).SetTextMatrix(age, 1, "1.0");
+  }
+}
+
+void ReadSettingLines(InputForm& form, double version) {
+  ReadEmphasis(form, version);
+  ReadShrinkage(form, version);
+  ReadBootstrap(form, version);
+  if (version >= 1.4) {
+    ReadField(form.txtEpsilon);
+  } else {
+    form.txtEpsilon.SetText("1.0e-12");
+  }
+  ReadEstimateM(form, version);
+  ReadEstimatedMeans(form, version);
+  const bool annual = version >= 1.4 && Val(ReadDataLine()) != 0.0;
+  form.opFishSelNonPar(annual ? 1 : 0).SetValue(true);
+  ReadCpueOptions(form, version);
+  ReadSurveyOptions(form, version);
+  ReadSelectivityShapes(form);
+  ReadSampleSizes(form);
+  ReadInitialF(form);
+  ReadCriteria(form);
+  if (version >= 1.4) ReadPhases(form);
+}
+
+}  // namespace tarnvik
