@@ -14,10 +14,6 @@ bool InputForm::CodeClicksRest() const { return LoadingForm == kTrue; }
 
 void InputForm::QueryUnload(bool& cancel, UnloadMode mode) { frmInput_Form_QueryUnload(cancel, mode); }
 
-void InputForm::Design() {}
-void InputForm::BindHandlers() {}
-void InputForm::Load() {}
-
 void ShowPath(Label& label, const std::string& path) {
   const bool none = IsNone(path);
   label.SetCaption(none ? kNoneSelected : path);

@@ -1,6 +1,7 @@
 // frmInput "Input Data": the state record of a case's data and settings.
 //
-// Its fields and grid cells are the working data: readers fill them, writers, validators and plots read them back.
+// Its fields and grid cells are the working data: readers fill them, writers, validators and plots read them
+// back.
 #pragma once
 
 #include "platform/form.h"
@@ -11,23 +12,33 @@ namespace tarnvik {
 
 // Pages of SSTab1; validation selects them by these numbers.
 enum InputTab : int {
-  kTabGeneral, kTabFisheryAge, kTabCpue, kTabFisherySelectivity, kTabFisheryOptions, kTabSurveyData,
-  kTabSurveySelectivity, kTabSurveyOptions, kTabCatch, kTabStockWeight, kTabSpawnWeight, kTabMaturity,
+  kTabGeneral,
+  kTabFisheryAge,
+  kTabCpue,
+  kTabFisherySelectivity,
+  kTabFisheryOptions,
+  kTabSurveyData,
+  kTabSurveySelectivity,
+  kTabSurveyOptions,
+  kTabCatch,
+  kTabStockWeight,
+  kTabSpawnWeight,
+  kTabMaturity,
   kTabFittingOptions
 };
 
 struct InputForm : Form {
   InputForm();
-  void Load() override;  // frmInput_Form_Load
+  void Load() override;                                      // frmInput_Form_Load
   void QueryUnload(bool& cancel, UnloadMode mode) override;  // frmInput_Form_QueryUnload
-  bool CodeClicksRest() const override;  // while LoadingForm is set
+  bool CodeClicksRest() const override;                      // while LoadingForm is set
 
   TabStrip SSTab1{this, "SSTab1"};
 
   // General
   Label Title{this, "Title"};
   Frame Frame1{this, "Frame1"};
-  Label lblCTL{this, "lblCTL"};                          // control file, "None Selected" in red when there is none
+  Label lblCTL{this, "lblCTL"};  // control file, "None Selected" in red when there is none
   CommandButton cmdBrowseCTL{this, "cmdBrowseCTL"};
   ControlArray<Label> lblFile{this, "lblFile", {0, 1}};  // parameter file, data file
   CommandButton cmdBrowse1{this, "cmdBrowse1"};          // opens a parameter file
@@ -49,7 +60,8 @@ struct InputForm : Form {
   TextBox txtBootSeed{this, "txtBootSeed"};
 
   // All grids; the catalogue stands in grids.h. There is no grid 2.
-  ControlArray<Grid> ORVFlexGrid{this, "ORVFlexGrid", {0, 1, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16}};
+  ControlArray<Grid> ORVFlexGrid{
+      this, "ORVFlexGrid", {0, 1, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16}};
   // Index 0 works on ORVFlexGrid(5), 1 on ORVFlexGrid(1), 2 on ORVFlexGrid(15).
   ControlArray<CommandButton> cmdCondenseGrd{this, "cmdCondenseGrd", {0, 1}};
   ControlArray<CommandButton> cmdExpandGrd{this, "cmdExpandGrd", {0, 1}};
@@ -68,10 +80,12 @@ struct InputForm : Form {
 
   // Fishery Selectivity
   Frame Frame3{this, "Frame3"};
-  TextBox txtFishSelAge{this, "txtFishSelAge"};  // the count of ages of the annual option; lies over ORVFlexGrid(11)
-  ControlArray<OptionButton> opFSelModel{this, "opFSelModel", {0, 1}};                  // parametric, nonparametric
+  TextBox txtFishSelAge{
+      this, "txtFishSelAge"};  // the count of ages of the annual option; lies over ORVFlexGrid(11)
+  ControlArray<OptionButton> opFSelModel{this, "opFSelModel", {0, 1}};  // parametric, nonparametric
   Frame frmFishSelParModel{this, "frmFishSelParModel"};
-  ControlArray<OptionButton> opFishSelParametric{this, "opFishSelParametric", {0, 1}};  // flat-topped, 3 parameters
+  ControlArray<OptionButton> opFishSelParametric{
+      this, "opFishSelParametric", {0, 1}};  // flat-topped, 3 parameters
   Frame frmFishSelParEst{this, "frmFishSelParEst"};
   CheckBox chkEstimateFishGamma{this, "chkEstimateFishGamma"};
   Label lblPhaseFishGamma{this, "lblPhaseFishGamma"};
@@ -83,7 +97,7 @@ struct InputForm : Form {
   Label lblPhaseFishA50{this, "lblPhaseFishA50"};
   TextBox txtPhaseFishA50{this, "txtPhaseFishA50"};
   Frame frmFishSelNonPar{this, "frmFishSelNonPar"};
-  ControlArray<OptionButton> opFishSelNonPar{this, "opFishSelNonPar", {0, 1}};          // by period, annual
+  ControlArray<OptionButton> opFishSelNonPar{this, "opFishSelNonPar", {0, 1}};  // by period, annual
   Frame frmFishSelNonParEst{this, "frmFishSelNonParEst"};
   CheckBox chkFishSelNonParEst{this, "chkFishSelNonParEst"};
   Label lblPhaseFSelNonPar{this, "lblPhaseFSelNonPar"};
@@ -91,14 +105,15 @@ struct InputForm : Form {
 
   // Fishery Options, Survey Options and Fitting Options share these arrays; the index carries the meaning:
   // 0 CV of M, 1 M, 2 survey q, 3 survey exponent, 4 fishery effective sample size, 5 initial equilibrium F,
-  // 6 status determination criteria, 10 CPUE q, 11 CPUE exponent, 12 to 15 target and limit F, target and limit
-  // spawning biomass.
+  // 6 status determination criteria, 10 CPUE q, 11 CPUE exponent, 12 to 15 target and limit F, target and
+  // limit spawning biomass.
   Frame Frame18{this, "Frame18"};
   ControlArray<CheckBox> chkEstimate{this, "chkEstimate", {1, 2, 3, 4, 5, 6, 10, 11}};
   ControlArray<Label> lblEstimate{this, "lblEstimate", {0, 1, 2, 3, 4, 5, 10, 11, 12, 13, 14, 15}};
   ControlArray<TextBox> txtEstimate{this, "txtEstimate", {0, 1, 2, 3, 4, 5, 10, 11, 12, 13, 14, 15}};
   Frame Frame19{this, "Frame19"};
-  // 0 fishery CPUE, 1 recruitment, 2 fishery age composition, 3 catch biomass, 4 fishery selectivity, 5 F penalty
+  // 0 fishery CPUE, 1 recruitment, 2 fishery age composition, 3 catch biomass, 4 fishery selectivity, 5 F
+  // penalty
   ControlArray<Label> lblLikelihood{this, "lblLikelihood", {0, 1, 2, 3, 4, 5}};
   ControlArray<TextBox> txtLikelihood{this, "txtLikelihood", {0, 1, 2, 3, 4, 5}};
   Frame Frame20{this, "Frame20"};
@@ -117,11 +132,13 @@ struct InputForm : Form {
 
   // Survey Selectivity
   Frame Frame22{this, "Frame22"};
-  ControlArray<OptionButton> opSurvSelModel{this, "opSurvSelModel", {0, 1}};            // parametric, nonparametric
+  ControlArray<OptionButton> opSurvSelModel{this, "opSurvSelModel", {0, 1}};  // parametric, nonparametric
   Frame frmSurvSelModel{this, "frmSurvSelModel"};
-  ControlArray<OptionButton> opSurvSelParametric{this, "opSurvSelParametric", {0, 1}};  // flat-topped, 3 parameters
+  ControlArray<OptionButton> opSurvSelParametric{
+      this, "opSurvSelParametric", {0, 1}};  // flat-topped, 3 parameters
   Frame frmSurvSelEstPar{this, "frmSurvSelEstPar"};
-  ControlArray<CheckBox> chkSurvSelParEst{this, "chkSurvSelParEst", {0, 1, 2}};         // log gamma, log beta, log a50
+  ControlArray<CheckBox> chkSurvSelParEst{
+      this, "chkSurvSelParEst", {0, 1, 2}};  // log gamma, log beta, log a50
   ControlArray<Label> lblSurvSelParEst{this, "lblSurvSelParEst", {0, 1, 2}};
   ControlArray<TextBox> txtSurvSelParEst{this, "txtSurvSelParEst", {0, 1, 2}};
   Frame Frame7{this, "Frame7"};
@@ -184,12 +201,23 @@ struct InputForm : Form {
 
 inline FormOf<InputForm> frmInput{"frmInput"};
 
+// The empty form for the general parameter ranges: clears the dimensions, fills the lists of the General tab,
+// commits what they show, sizes the per-survey store and all grids, those of frmPin included, which is
+// loaded. Sets InputValid false. Clicks by code rest meanwhile; LoadingForm is false at the end, also when an
+// error passes through.
+void frmInput_Form_Load();
+
 // One estimated item of the form: its box, the label and the field of its phase.
 struct EstimatePair {
   CheckBox* check;
   Label* label;
   TextBox* phase;
+  bool in_model;    // whether the selectivity model in force has the item at all
+  const char* tip;  // of the phase
 };
+
+// All of them, for the options as they are set. Takes the form, since its own design asks too.
+std::vector<EstimatePair> EstimatePairs(InputForm& form);
 
 // Shows a path in one of the three file labels: blue, or "None Selected" in red for "" and "None Selected".
 void ShowPath(Label& label, const std::string& path);

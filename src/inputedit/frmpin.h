@@ -8,24 +8,25 @@ namespace tarnvik {
 
 struct PinForm : Form {
   PinForm();
-  void Load() override;      // frmPin_Form_Load
-  void Activate() override;  // frmPin_Form_Activate
+  void Load() override;                                      // frmPin_Form_Load
+  void Activate() override;                                  // frmPin_Form_Activate
   void QueryUnload(bool& cancel, UnloadMode mode) override;  // frmPin_Form_QueryUnload
-  bool CodeClicksRest() const override;  // while LoadingForm is set
+  bool CodeClicksRest() const override;                      // while LoadingForm is set
 
   TabStrip SSTab1{this, "SSTab1"};  // biological, fishery, survey
   ControlArray<Label> Label1{this, "Label1", {0, 1, 2, 3, 4, 5, 6}};
-  // 0 natural mortality, 1 log of mean recruitment, 2 log of mean fishing mortality, 3 CPUE q, 4 CPUE exponent
+  // 0 natural mortality, 1 log of mean recruitment, 2 log of mean fishing mortality, 3 CPUE q, 4 CPUE
+  // exponent
   ControlArray<TextBox> txtParmFile{this, "txtParmFile", {0, 1, 2, 3, 4}};
-  // 0 recruitment deviations, 1 fishing mortality deviations, 2 parametric fishery selectivity, 3 survey index,
-  // 4 nonparametric fishery selectivity by period, 5 parametric and 6 nonparametric survey selectivity,
-  // 7 annual nonparametric fishery selectivity
+  // 0 recruitment deviations, 1 fishing mortality deviations, 2 parametric fishery selectivity, 3 survey
+  // index, 4 nonparametric fishery selectivity by period, 5 parametric and 6 nonparametric survey
+  // selectivity, 7 annual nonparametric fishery selectivity
   ControlArray<Grid> ORVFlexGrid1{this, "ORVFlexGrid1", {0, 1, 2, 3, 4, 5, 6, 7}};
-  Frame Frame3{this, "Frame3"};                        // survey index parameters
-  Frame frmParFishSel{this, "frmParFishSel"};          // the next three share one place, one of them is visible
+  Frame Frame3{this, "Frame3"};                // survey index parameters
+  Frame frmParFishSel{this, "frmParFishSel"};  // the next three share one place, one of them is visible
   Frame frmNonParFishSel1{this, "frmNonParFishSel1"};
   Frame frmNonParFishSel2{this, "frmNonParFishSel2"};
-  Frame frmParSurvSel{this, "frmParSurvSel"};          // and so do these two
+  Frame frmParSurvSel{this, "frmParSurvSel"};  // and so do these two
   Frame frmNonParSurvSel{this, "frmNonParSurvSel"};
 
  private:
@@ -33,5 +34,11 @@ struct PinForm : Form {
 };
 
 inline FormOf<PinForm> frmPin{"frmPin"};
+
+// Shows the first page and the frames of the selectivity options. Loads frmInput when it is not loaded. The
+// grids of a fresh record have no size yet: the flows shape them.
+void frmPin_Form_Load();
+// Repaints the three grids of nonparametric selectivity; shows the warnings of counts that are out of range.
+void frmPin_Form_Activate();
 
 }  // namespace tarnvik

@@ -1,5 +1,5 @@
-// Selectivity and fitting options: what the check boxes and option groups of frmInput do to phases, labels, grids
-// and the frames of frmPin. Each rule runs in a click handler; a reader that sets a value runs it too.
+// Selectivity and fitting options: what the check boxes and option groups of frmInput do to phases, labels,
+// grids and the frames of frmPin. Each rule runs in a click handler; a reader that sets a value runs it too.
 #pragma once
 
 namespace tarnvik {
@@ -27,12 +27,13 @@ void frmInput_chkSurvFit_Click(int);
 void frmInput_listSurvSample_Click(int);
 void frmInput_txtFishSelAge_LostFocus(int);
 
-// Sets the fishery frames of frmPin, swaps ORVFlexGrid(11) and txtFishSelAge, hides or shows the log gamma row.
+// Sets the fishery frames of frmPin, swaps ORVFlexGrid(11) and txtFishSelAge, hides or shows the log gamma
+// row.
 void ApplyFishSelModel();
 // Sets the survey frames of frmPin, hides or shows the log gamma row.
 void ApplySurvSelModel();
-// Colour and clear frmPin grids 4, 7 and 6 by the counts of ages to estimate; an invalid count is reset with one
-// warning. Only cells that exist are touched.
+// Colour and clear frmPin grids 4, 7 and 6 by the counts of ages to estimate; an invalid count is reset with
+// one warning. Only cells that exist are touched.
 void PaintFishPeriodGrid();
 void PaintFishAnnualGrid();
 void PaintSurvGrid();

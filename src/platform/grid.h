@@ -53,6 +53,7 @@ class Grid : public Control {
   // Header rows and label columns that cannot be edited.
   int FixedRows = 1;
   int FixedCols = 1;
+  int ReadOnlyCol = -1;  // a column of derived values among the others, -1 for none
   // The current cell, the far end of the selected range, the first row in view below the fixed ones.
   int Row = 1;
   int Col = 1;
@@ -64,7 +65,7 @@ class Grid : public Control {
   // Whether the user may type into cells, and whether one cell accepts typing.
   bool Editable = false;
   bool CellEditable(int row, int col) const {
-    return Editable && row >= FixedRows && col >= FixedCols && row < rows_ && col < cols_;
+    return Editable && row >= FixedRows && col >= FixedCols && col != ReadOnlyCol && row < rows_ && col < cols_;
   }
 
   // Raised by the front ends only.
