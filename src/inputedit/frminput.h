@@ -212,8 +212,8 @@ struct EstimatePair {
   CheckBox* check;
   Label* label;
   TextBox* phase;
-  bool in_model;    // whether the selectivity model in force has the item at all
-  const char* tip;  // of the phase
+  bool in_model = true;  // whether the selectivity model in force has the item at all
+  const char* tip = "";  // of the phase
 };
 
 // All of them, for the options as they are set. Takes the form, since its own design asks too.
