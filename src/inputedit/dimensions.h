@@ -15,7 +15,7 @@
 namespace tarnvik {
 
 // When the first year lies behind the last one, the last year becomes the first year itself, with a box that
-// says so; and the other way round. While no first year is selected, a change of the last one waits for it.
+// says so; and the other way round.
 void frmInput_cmbNFYear_Click(int);
 void frmInput_cmbNXYear_Click(int);
 void frmInput_cmbNAges_Click(int);

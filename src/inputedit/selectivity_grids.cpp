@@ -18,16 +18,6 @@ constexpr int kShownRowHeight = 300;
 
 bool Selected(const ComboBox& combo) { return combo.ListIndex() >= 0; }
 
-// Wider behind the colon than what LabelPeriods writes: the two have always differed, and columns are told
-// apart by these texts.
-std::string WidePeriodLabel(int period) {
-  const Grid& spans = frmInput->ORVFlexGrid(8);
-  std::string label = "Select. Period " + NumberText(period);
-  if (period < spans.Rows())
-    label += ":   " + spans.TextMatrix(period, 1) + " - " + spans.TextMatrix(period, 2);
-  return label;
-}
-
 // SurveyLabel for the surveys in force, the bare number for those to come.
 std::string WantedSurveyLabel(int survey) {
   return survey <= NIndex ? SurveyLabel(survey) : "Survey " + NumberText(survey);
@@ -88,7 +78,7 @@ void UpdateFishAgesGrid() {
   counts.SetTextMatrix(0, 1, "# Ages");
   ResetCounts(counts, counts.Visible() ? "Fishery" : nullptr);
   for (int period = 1; period <= NewNSelPer; ++period)
-    counts.SetTextMatrix(period, 0, WidePeriodLabel(period));
+    counts.SetTextMatrix(period, 0, PeriodLabel(period, kWideGap));
   // The single count of the annual option follows the first period's.
   TextBox& single = form.txtFishSelAge;
   if (!IsBlank(single.Text()) && Val(single.Text()) > NewNAges && single.Visible()) WarnOfCount("Fishery");
@@ -113,7 +103,8 @@ void UpdateFishParGrid() {
   grid.SetTextMatrix(1, 0, "log gamma");
   grid.SetTextMatrix(2, 0, "log beta");
   grid.SetTextMatrix(3, 0, "log a50");
-  for (int period = 1; period <= NewNSelPer; ++period) grid.SetTextMatrix(0, period, WidePeriodLabel(period));
+  for (int period = 1; period <= NewNSelPer; ++period)
+    grid.SetTextMatrix(0, period, PeriodLabel(period, kWideGap));
   grid.SetRowHeight(1, frmInput->opFishSelParametric(0).Value() ? 0 : kShownRowHeight);
 }
 
@@ -122,7 +113,8 @@ void UpdateFishNonParGrid() {
   Grid& grid = frmPin->ORVFlexGrid1(4);
   grid.Resize(NewNSelPer + 1, NewNAges + 1);
   SetAgeHeaders(grid);
-  for (int period = 1; period <= NewNSelPer; ++period) grid.SetTextMatrix(period, 0, WidePeriodLabel(period));
+  for (int period = 1; period <= NewNSelPer; ++period)
+    grid.SetTextMatrix(period, 0, PeriodLabel(period, kWideGap));
   PaintFishPeriodGrid();
 }
 

@@ -9,6 +9,7 @@
 #include "inputedit/dimensions.h"
 #include "inputedit/frminput.h"
 #include "inputedit/frmpin.h"
+#include "inputedit/grids.h"
 
 namespace tarnvik {
 
@@ -55,7 +56,7 @@ void RefitDeviations(Grid& grid, int first, int last) {
 }  // namespace
 
 void UpdateYearGrid(int index) {
-  Grid& grid = index >= 100 ? frmPin->ORVFlexGrid1(index - 100) : frmInput->ORVFlexGrid(index);
+  Grid& grid = CaseGrid(index);
   const int rows = std::max<int>(NewNYears, 0) + 1;
   CheckTableSize(rows, grid.Cols());
   std::vector<std::vector<std::string>> kept(static_cast<std::size_t>(rows));
