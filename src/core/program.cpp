@@ -8,7 +8,8 @@ namespace tarnvik {
 
 void StartProgram(Host& host) {
   SetHost(&host);
-  RunEvent([] { ActivateForm(frmMain); });
+  // The main window stands around the other forms: one of those is in front.
+  RunEvent([] { frmMain->Shown = true; });
 }
 
 void EndProgram() {
