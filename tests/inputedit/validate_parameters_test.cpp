@@ -33,7 +33,9 @@ TEST_F(ParameterValidation, field_must_lie_in_its_range) {
          {std::pair{"", row.missing}, {row.outside, row.invalid}, {row.low, ""}, {row.high, ""}}) {
       field.SetText(text);
       EXPECT_EQ(Fault(), message);
-      if (*message) EXPECT_EQ(frmPin->SSTab1.Tab(), row.tab) << message;
+      if (*message) {
+        EXPECT_EQ(frmPin->SSTab1.Tab(), row.tab) << message;
+      }
     }
   }
 }
@@ -59,7 +61,9 @@ TEST_F(ParameterValidation, cell_must_lie_in_its_range) {
     for (const auto& [text, message] : {std::pair{row.outside, row.invalid}, {row.low, ""}, {row.high, ""}}) {
       PinGrid(row.grid).SetTextMatrix(row.row, row.col, text);
       EXPECT_EQ(Fault(), message);
-      if (*message) EXPECT_EQ(frmPin->SSTab1.Tab(), row.tab) << message;
+      if (*message) {
+        EXPECT_EQ(frmPin->SSTab1.Tab(), row.tab) << message;
+      }
     }
   }
 }

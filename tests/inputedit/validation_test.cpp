@@ -1,5 +1,6 @@
 #include "inputedit/validation.h"
 
+#include "core/frmmain.h"
 #include "example_case.h"
 #include "inputedit/gridtools.h"
 
@@ -11,7 +12,7 @@ class Validation : public ExampleCase {
   // What the user meets: the one message, "" when all is well. A fault has the warning sign and shows
   // frmInput.
   std::string Fault() {
-    BringFormToFront(frmPin);
+    BringFormToFront(frmMain);
     frmInput->SSTab1.SetTab(kTabGeneral);
     ValidateInputData();
     EXPECT_EQ(InputValid, Flag(host.messages.empty()));
@@ -143,6 +144,7 @@ TEST_F(Validation, bad_field_is_named_while_it_is_in_use) {
       {"txtEstimate", 11, "-1", 4, "Invalid Value for Phase to begin Estimating CPUE exponent"},
       {"txtEstimate", 4, "", 4, "Invalid Value for Phase to Estimate Effective Sample Size for Fishery"},
       {"txtSurvSelParEst", 0, "", 6, "Invalid Value for Phase to Estimate Survey log gamma"},
+      {"txtSurvSelParEst", 1, "-1", 6, "Invalid Value for Phase to Estimate Survey log beta"},
       {"txtSurvSelParEst", 2, "", 6, "Invalid Value for Phase to Estimate Survey log a50"},
       {"txtSurvSelNonParEst", -1, "-3", 6, "Invalid Value for Phase to Estimate Nonparametric Survey Selectivity"},
       {"txtEstimate", 2, "", 7, "Invalid Value for Phase to begin Estimating Survey q"},
