@@ -14,7 +14,7 @@ namespace tarnvik {
 // No table of the program may hold more cells than this; what asks for more gets run-time error 7
 // "Out of memory" instead of the machine's memory. The largest case that the ranges allow (100 years,
 // 60 ages, 50 surveys) needs 1.3 million cells in its largest table.
-inline constexpr long long kMaxTableCells = 8'000'000;
+inline constexpr long long kMaxTableCells = 3'000'000;
 
 // Raises run-time error 7 when a table of that many cells is beyond the bound; the factors may be any numbers.
 void CheckTableSize(long long a, long long b, long long c = 1);
