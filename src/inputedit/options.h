@@ -32,6 +32,8 @@ void frmInput_txtFishSelAge_LostFocus(int);
 void ApplyFishSelModel();
 // Sets the survey frames of frmPin, hides or shows the log gamma row.
 void ApplySurvSelModel();
+// The warning of a count of ages to estimate that is reset to NewNAges; fleet is "Fishery" or "Survey".
+void WarnOfAgeCount(const char* fleet);
 // Colour and clear frmPin grids 4, 7 and 6 by the counts of ages to estimate; an invalid count is reset with
 // one warning. Only cells that exist are touched.
 void PaintFishPeriodGrid();

@@ -8,7 +8,6 @@
 #include "inputedit/frmpin.h"
 #include "inputedit/grids.h"
 #include "inputedit/options.h"
-#include "platform/host.h"
 
 namespace tarnvik {
 
@@ -23,12 +22,6 @@ std::string WantedSurveyLabel(int survey) {
   return survey <= NIndex ? SurveyLabel(survey) : "Survey " + NumberText(survey);
 }
 
-void WarnOfCount(const char* fleet) {
-  ShowMessage(std::string("Number of Ages to Estimate ") + fleet + " Selectivity is Invalid" + kLineBreak +
-                  "Resetting Value to " + NumberText(NewNAges),
-              Icon::Exclamation);
-}
-
 // Empty counts, and counts beyond the number of ages, take the number of ages; the first of the latter warns,
 // unless fleet is null.
 void ResetCounts(Grid& grid, const char* fleet) {
@@ -36,7 +29,7 @@ void ResetCounts(Grid& grid, const char* fleet) {
     const std::string& count = grid.TextMatrix(row, 1);
     if (!IsBlank(count) && Val(count) <= NewNAges) continue;
     if (!IsBlank(count) && fleet) {
-      WarnOfCount(fleet);
+      WarnOfAgeCount(fleet);
       fleet = nullptr;
     }
     grid.SetTextMatrix(row, 1, NumberText(NewNAges));
@@ -81,7 +74,7 @@ void UpdateFishAgesGrid() {
     counts.SetTextMatrix(period, 0, PeriodLabel(period, kWideGap));
   // The single count of the annual option follows the first period's.
   TextBox& single = form.txtFishSelAge;
-  if (!IsBlank(single.Text()) && Val(single.Text()) > NewNAges && single.Visible()) WarnOfCount("Fishery");
+  if (!IsBlank(single.Text()) && Val(single.Text()) > NewNAges && single.Visible()) WarnOfAgeCount("Fishery");
   single.SetText(counts.TextMatrix(1, 1));
 }
 

@@ -19,23 +19,17 @@ bool ValidCount(const std::string& text) {
   return count >= 1 && count <= NewNAges;
 }
 
-void WarnOfCount(const char* whose) {
-  ShowMessage(std::string("Number of Ages to Estimate ") + whose + " Selectivity is Invalid" + kLineBreak +
-                  "Resetting Value to " + NumberText(NewNAges),
-              Icon::Exclamation);
-}
-
 // The counts in column 1 of a grid, row by row from element 1. Invalid ones are set to the number of ages;
-// the first of them warns, unless whose is null.
-std::vector<int> CountsOf(Grid& grid, const char* whose) {
+// the first of them warns, unless fleet is null.
+std::vector<int> CountsOf(Grid& grid, const char* fleet) {
   std::vector<int> counts(static_cast<std::size_t>(std::max(grid.Rows(), 1)), NewNAges);
   for (int row = 1; row < grid.Rows(); ++row) {
     if (ValidCount(grid.TextMatrix(row, 1))) {
       counts[static_cast<std::size_t>(row)] = ValInt(grid.TextMatrix(row, 1));
       continue;
     }
-    if (whose) WarnOfCount(whose);
-    whose = nullptr;
+    if (fleet) WarnOfAgeCount(fleet);
+    fleet = nullptr;
     grid.SetTextMatrix(row, 1, NumberText(NewNAges));
   }
   return counts;
@@ -45,7 +39,7 @@ std::vector<int> CountsOf(Grid& grid, const char* whose) {
 int SingleCount() {
   TextBox& box = frmInput->txtFishSelAge;
   if (!ValidCount(box.Text())) {
-    WarnOfCount("Fishery");
+    WarnOfAgeCount("Fishery");
     box.SetText(NumberText(NewNAges));
   }
   return ValInt(box.Text());
@@ -74,6 +68,12 @@ void PaintAllRows(Grid& grid, int count) {
 }
 
 }  // namespace
+
+void WarnOfAgeCount(const char* fleet) {
+  ShowMessage(std::string("Number of Ages to Estimate ") + fleet + " Selectivity is Invalid" + kLineBreak +
+                  "Resetting Value to " + NumberText(NewNAges),
+              Icon::Exclamation);
+}
 
 void PaintFishPeriodGrid() {
   Grid& grid = frmPin->ORVFlexGrid1(4);
