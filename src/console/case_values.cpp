@@ -8,7 +8,7 @@
 #include "core/globals.h"
 #include "core/state_names.h"
 #include "core/text.h"
-#include "modelrun/runmodel.h"
+#include "modelrun/modeloutput.h"
 #include "platform/host.h"
 
 namespace tarnvik {
@@ -45,8 +45,8 @@ std::string SeriesSelection(const int* at) {
 }
 
 std::string OutputName(const int* at) {
-  if (at[0] < 0 || at[0] >= kModelOutputCount) throw RunTimeError(kErrSubscript);
-  return Json(ModelOutputNames[at[0]]);
+  if (at[0] < 1 || at[0] > kModelOutputCount) throw RunTimeError(kErrSubscript);
+  return Json(ModelOutputNames[at[0] - 1]);
 }
 
 // What is no single word or text of the case state.
