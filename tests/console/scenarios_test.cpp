@@ -1,5 +1,6 @@
-// Whole flows: each script of tests/scenarios is run in a folder of its own, with a copy of the example case in it,
-// and its transcript compared with the file beside it. @FOLDER@ in a script and in a transcript is that folder.
+// Whole flows: each script of tests/scenarios is run in a folder of its own, with a copy of the example case
+// in it, and its transcript compared with the file beside it. @FOLDER@ in a script and in a transcript is
+// that folder.
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
@@ -86,7 +87,7 @@ TEST_P(Scenario, answers_as_written_down) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Scripts, Scenario, testing::ValuesIn(ScenarioNames()),
-                         [](const auto& info) { return info.param; });
+                         [](const auto& script) { return script.param; });
 
 }  // namespace
 }  // namespace tarnvik
