@@ -26,8 +26,6 @@ void ListControl::SetListIndex(int item) {
   RunClickByCode();
 }
 
-void ListControl::UserPoint(int item) { PutListIndex(item); }
-
 void ListControl::UserSelect(int item) {
   PutListIndex(item);
   RunClick();

@@ -1,9 +1,0 @@
-#include "results/scan.h"
-
-namespace tarnvik {
-
-void ScanReportFile() {}
-void ScanStdFile() {}
-void ScanParFile() {}
-
-}  // namespace tarnvik
