@@ -114,7 +114,7 @@ Vector CurrentFreeNumbers(const Fit& fit) {
 
 std::size_t OperationsGuess(const CaseData& data) {
   const auto cells = static_cast<std::size_t>(data.nYears) * static_cast<std::size_t>(data.nAges);
-  return cells * static_cast<std::size_t>(data.nSurveys + 3) * 50;
+  return cells * static_cast<std::size_t>(data.nSurveys + 3) * 100;
 }
 
 std::unique_ptr<Recording> RecordObjective(const Fit& fit) {

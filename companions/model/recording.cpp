@@ -20,7 +20,7 @@ std::vector<double*> RowPointers(RowMajor& matrix) {
 
 Recording::Recording(RecordingKind kind, const Vector& point, std::size_t operations, const Function& f)
     : tag_(static_cast<short>(kind)), inputs_(static_cast<int>(point.size())) {
-  const auto buffer = static_cast<unsigned int>(std::clamp<std::size_t>(operations, 1U << 24, 1U << 30));
+  const auto buffer = static_cast<unsigned int>(std::clamp<std::size_t>(operations, 1U << 20, 1U << 30));
   trace_on(tag_, 0, buffer, buffer, buffer, buffer, 0);
   {
     std::vector<adouble> u(static_cast<std::size_t>(inputs_));

@@ -69,12 +69,19 @@ void PutYear(ComboBox& combo, std::string_view word, const char* message) {
   combo.SetListIndex(year - NewNFYear);
 }
 
-// A year beyond the ranges widens them: what a file holds can be chosen.
+// A year beyond the ranges widens them: what a file holds can be chosen. Their span must stay a 16-bit
+// number, or the form could not be loaded any more.
+void WidenYears(std::int16_t first, std::int16_t last) {
+  Int16(last - first + 1);
+  GPYearMin = first;
+  GPYearMax = last;
+}
+
 void ReadYears(InputForm& form) {
   LineWords words(ReadDataLine());
   NewNFYear = ValInt(words.Next());
   if (NewNFYear < GPYearMin) {
-    GPYearMin = NewNFYear;
+    WidenYears(NewNFYear, GPYearMax);
     form.cmbNFYear.FillNumbers(GPYearMin, GPYearMax);
     form.cmbNXYear.FillNumbers(GPYearMin, GPYearMax);
   }
@@ -82,7 +89,7 @@ void ReadYears(InputForm& form) {
   NewNXYear = ValInt(words.Next());
   Require(NewNXYear > NewNFYear, "Invalid Value for End Year");
   if (NewNXYear > GPYearMax) {
-    GPYearMax = NewNXYear;
+    WidenYears(GPYearMin, NewNXYear);
     form.cmbNXYear.FillNumbers(GPYearMin, GPYearMax);
   }
   NewNYears = Int16(NewNXYear - NewNFYear + 1);

@@ -58,23 +58,14 @@ void ReadBootstrap(InputForm& form, double version) {
   form.opBoot(Val(form.txtNBoot.Text()) == 0.0 ? 0 : 1).SetValue(true);
 }
 
-// Checks an item or not; its label and field are turned on and off with it.
-void PutEstimate(const EstimatePair& item, bool estimated) {
-  item.check->SetValue(estimated ? 1 : 0);
-  item.label->SetEnabled(estimated);
-  item.phase->SetVisible(estimated);
-}
-
-// The items that share one array, by their index.
-EstimatePair Estimate(InputForm& form, int index) {
-  return {&form.chkEstimate(index), &form.lblEstimate(index), &form.txtEstimate(index)};
-}
+// Checks an item or not. Its click handler turns label and field on and off with it.
+void PutEstimate(CheckBox& item, bool estimated) { item.SetValue(estimated ? 1 : 0); }
 
 // The value is the number of the prior, from 1; before version 1.4 it is the phase.
 void ReadEstimateM(InputForm& form, double version) {
   const int value = ValInt(ReadDataLine());
   const bool estimated = value > 0;
-  PutEstimate(Estimate(form, 1), estimated);
+  PutEstimate(form.chkEstimate(1), estimated);
   form.cmbMType.SetEnabled(estimated);
   if (version < 1.4) {
     form.txtEstimate(1).SetText(estimated ? NumberText(value) : "");
@@ -84,13 +75,9 @@ void ReadEstimateM(InputForm& form, double version) {
 }
 
 void ReadEstimatedMeans(InputForm& form, double version) {
-  const EstimatePair items[] = {
-      {&form.chkEstimateLogRec, &form.lblPhaseLogRec, &form.txtPhaseLogRec},
-      {&form.chkEstimateRecDev, &form.lblPhaseRecDev, &form.txtPhaseRecDev},
-      {&form.chkEstimateFMort, &form.lblPhaseFMort, &form.txtPhaseFMort},
-      {&form.chkEstimateFMortDev, &form.lblPhaseFMortDev, &form.txtPhaseFMortDev},
-  };
-  for (const EstimatePair& item : items) PutEstimate(item, version < 1.4 || Val(ReadDataLine()) != 0.0);
+  CheckBox* const items[] = {&form.chkEstimateLogRec, &form.chkEstimateRecDev, &form.chkEstimateFMort,
+                             &form.chkEstimateFMortDev};
+  for (CheckBox* item : items) PutEstimate(*item, version < 1.4 || Val(ReadDataLine()) != 0.0);
 }
 
 // Of versions 1.2 and 1.3 a negative value is no fit, from 1.4 on every value but 0 is one.
@@ -103,7 +90,7 @@ bool ReadFitCpue(double version) {
 // A flag that was a phase before version 1.4.
 void ReadEstimateOrPhase(InputForm& form, int index, double version) {
   const int value = ValInt(ReadDataLine());
-  PutEstimate(Estimate(form, index), value > 0);
+  PutEstimate(form.chkEstimate(index), value > 0);
   if (value <= 0) {
     form.txtEstimate(index).SetText("");
   } else if (version < 1.4) {
@@ -119,7 +106,7 @@ void ReadCpueOptions(InputForm& form, double version) {
     ReadEstimateOrPhase(form, 10, version);
     ReadEstimateOrPhase(form, 11, version);
   } else {
-    PutEstimate(Estimate(form, 10), true);
+    PutEstimate(form.chkEstimate(10), true);
   }
 }
 
@@ -135,10 +122,10 @@ void ReadSurveyOptions(InputForm& form, double version) {
   }
   RefreshSurveyLists(4);
   if (version >= 1.2) ReadMarks(form.listSurvFit);
-  PutEstimate(Estimate(form, 2), ValInt(ReadDataLine()) > 0);
+  PutEstimate(form.chkEstimate(2), ValInt(ReadDataLine()) > 0);
   if (version < 1.4) form.txtEstimate(2).SetText("6");
   const int exponent = ValInt(ReadDataLine());
-  PutEstimate(Estimate(form, 3), exponent > 0);
+  PutEstimate(form.chkEstimate(3), exponent > 0);
   if (version < 1.4) form.txtEstimate(3).SetText(exponent > 0 ? NumberText(exponent) : "");
 }
 
@@ -150,26 +137,21 @@ void ReadSelectivityShapes(InputForm& form) {
 }
 
 void ReadSampleSizes(InputForm& form) {
-  PutEstimate(Estimate(form, 4), IsOne(ReadDataLine()));
+  PutEstimate(form.chkEstimate(4), IsOne(ReadDataLine()));
   form.txtEstimate(4).SetText("");
   ReadMarks(form.listSurvSample);
   form.listSurvSample.SetListIndex(-1);
 }
 
 void ReadInitialF(InputForm& form) {
-  PutEstimate(Estimate(form, 5), IsOne(ReadDataLine()));
+  PutEstimate(form.chkEstimate(5), IsOne(ReadDataLine()));
   NewRecYr = RecDevStartYear();
   ReadField(form.txtEstimate(5));
 }
 
 void ReadCriteria(InputForm& form) {
-  const bool estimated = IsOne(ReadDataLine());
-  form.chkEstimate(6).SetValue(estimated ? 1 : 0);
-  for (const int criterion : {12, 13, 14, 15}) {
-    form.lblEstimate(criterion).SetEnabled(estimated);
-    form.txtEstimate(criterion).SetVisible(estimated);
-    ReadField(form.txtEstimate(criterion));
-  }
+  PutEstimate(form.chkEstimate(6), IsOne(ReadDataLine()));
+  for (const int criterion : {12, 13, 14, 15}) ReadField(form.txtEstimate(criterion));
 }
 
 // A phase below 0 says that the item is not estimated; its field is empty then. Returns whether it is
@@ -181,7 +163,7 @@ bool ReadPhase(TextBox& field) {
   return estimated;
 }
 
-void ReadPhase(CheckBox& box, TextBox& field) { box.SetValue(ReadPhase(field) ? 1 : 0); }
+void ReadPhase(CheckBox& box, TextBox& field) { PutEstimate(box, ReadPhase(field)); }
 
 // The same pair of controls serves the phase by period (option 0) and the annual one (option 1).
 void ReadNonparametricPhase(InputForm& form, int option) {

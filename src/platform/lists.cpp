@@ -26,6 +26,8 @@ void ListControl::SetListIndex(int item) {
   RunClickByCode();
 }
 
+void ListControl::UserPoint(int item) { PutListIndex(item); }
+
 void ListControl::UserSelect(int item) {
   PutListIndex(item);
   RunClick();

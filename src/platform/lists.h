@@ -21,6 +21,7 @@ class ListControl : public Control {
   // same. Raises 380 "Invalid property value" outside the list; nothing has changed then.
   void SetListIndex(int item);
   void UserSelect(int item);  // by the user; the same, but the handler is always reached
+  void UserPoint(int item);   // by the user, with the mouse button still held: no click yet
 
  protected:
   ListControl(Form* owner, ControlKind kind, std::string name, int index)

@@ -1,0 +1,114 @@
+// A data file as sections, so that a test can name what it changes, and a fixture that reads and writes such
+// texts.
+#pragma once
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "core/frmmain.h"
+#include "core/globals.h"
+#include "core/text.h"
+#include "core/utils.h"
+#include "inputedit/frminput.h"
+#include "inputedit/frmpin.h"
+#include "inputfiles/casefiles.h"
+#include "inputfiles/datafile.h"
+#include "support/test_program.h"
+
+namespace tarnvik {
+
+using Texts = std::vector<std::string>;
+
+inline std::string JoinLines(const Texts& lines, const std::string& end) {
+  std::string bytes;
+  for (const std::string& line : lines) bytes += line + end;
+  return bytes;
+}
+
+// Comment lines and the lines of values behind them. A section is named by any part of its comments.
+class DataText {
+ public:
+  explicit DataText(const std::string& bytes) {
+    for (std::size_t at = 0; at < bytes.size();) {
+      const std::size_t end = bytes.find("\r\n", at);
+      Add(bytes.substr(at, end - at));
+      at = end + 2;
+    }
+  }
+  // Several lines of values are parted by "|".
+  void Put(const std::string& name, const std::string& values) {
+    Texts& lines = Find(name).values;
+    lines.clear();
+    for (std::size_t at = 0; at <= values.size();) {
+      const std::size_t end = std::min(values.find('|', at), values.size());
+      lines.push_back(values.substr(at, end - at));
+      at = end + 1;
+    }
+  }
+  std::string Values(const std::string& name) { return JoinLines(Find(name).values, "|"); }
+  void Drop(const std::string& name) { Find(name).values.clear(); }
+  void PutHead(const Texts& comments) { sections_.front().comments = comments; }
+  Texts Lines() const {
+    Texts lines;
+    for (const Section& section : sections_) {
+      lines.insert(lines.end(), section.comments.begin(), section.comments.end());
+      lines.insert(lines.end(), section.values.begin(), section.values.end());
+    }
+    return lines;
+  }
+  std::string Bytes() const { return JoinLines(Lines(), "\r\n"); }
+
+ private:
+  struct Section {
+    Texts comments;
+    Texts values;
+  };
+  void Add(const std::string& line) {
+    if (!line.starts_with('#')) {
+      sections_.back().values.push_back(line);
+      return;
+    }
+    if (sections_.empty() || !sections_.back().values.empty()) sections_.emplace_back();
+    sections_.back().comments.push_back(line);
+  }
+  Section& Find(const std::string& name) {
+    for (Section& section : sections_) {
+      for (const std::string& comment : section.comments) {
+        if (comment.find(name) != std::string::npos) return section;
+      }
+    }
+    throw std::runtime_error("no section " + name);
+  }
+  std::vector<Section> sections_;
+};
+
+class DataFileTest : public ProgramTest {
+ protected:
+  void SetUp() override {
+    ProgramTest::SetUp();
+    every_option = ReadBytes(std::string(TARNVIK_TEST_DATA) + "/every_option.dat");
+  }
+  // As a user opens a data file, into the form as it is.
+  void Open(const std::string& bytes) {
+    WriteBytes("every_option.dat", bytes);
+    host.files.push_back("every_option.dat");
+    frmInput_cmdBrowse2_Click(0);
+  }
+  // The same into the empty form that the opening of a case begins with.
+  void OpenFresh(const std::string& bytes) {
+    UnloadForm(frmInput);
+    UnloadForm(frmPin);
+    Open(bytes);
+  }
+  std::string Saved() {
+    WriteDataFile();
+    EXPECT_EQ(FilesSaved, kTrue);
+    return ReadBytes(DatFilePath);
+  }
+  std::string every_option;  // a small case with all options on, as the writer leaves it
+};
+
+}  // namespace tarnvik
