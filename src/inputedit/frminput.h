@@ -1,7 +1,6 @@
 // frmInput "Input Data": the state record of a case's data and settings.
 //
-// Its fields and grid cells are the working data: readers fill them, writers, validators and plots read them
-// back.
+// Its fields and grid cells are the working data: readers fill them; writers, validators and plots read them.
 #pragma once
 
 #include "platform/form.h"
@@ -80,12 +79,12 @@ struct InputForm : Form {
 
   // Fishery Selectivity
   Frame Frame3{this, "Frame3"};
-  TextBox txtFishSelAge{
-      this, "txtFishSelAge"};  // the count of ages of the annual option; lies over ORVFlexGrid(11)
+  // The count of ages of the annual option; lies over ORVFlexGrid(11), and one of the two is visible.
+  TextBox txtFishSelAge{this, "txtFishSelAge"};
   ControlArray<OptionButton> opFSelModel{this, "opFSelModel", {0, 1}};  // parametric, nonparametric
   Frame frmFishSelParModel{this, "frmFishSelParModel"};
-  ControlArray<OptionButton> opFishSelParametric{
-      this, "opFishSelParametric", {0, 1}};  // flat-topped, 3 parameters
+  // flat-topped, 3 parameters
+  ControlArray<OptionButton> opFishSelParametric{this, "opFishSelParametric", {0, 1}};
   Frame frmFishSelParEst{this, "frmFishSelParEst"};
   CheckBox chkEstimateFishGamma{this, "chkEstimateFishGamma"};
   Label lblPhaseFishGamma{this, "lblPhaseFishGamma"};
@@ -112,8 +111,8 @@ struct InputForm : Form {
   ControlArray<Label> lblEstimate{this, "lblEstimate", {0, 1, 2, 3, 4, 5, 10, 11, 12, 13, 14, 15}};
   ControlArray<TextBox> txtEstimate{this, "txtEstimate", {0, 1, 2, 3, 4, 5, 10, 11, 12, 13, 14, 15}};
   Frame Frame19{this, "Frame19"};
-  // 0 fishery CPUE, 1 recruitment, 2 fishery age composition, 3 catch biomass, 4 fishery selectivity, 5 F
-  // penalty
+  // 0 fishery CPUE, 1 recruitment, 2 fishery age composition, 3 catch biomass, 4 fishery selectivity,
+  // 5 F penalty
   ControlArray<Label> lblLikelihood{this, "lblLikelihood", {0, 1, 2, 3, 4, 5}};
   ControlArray<TextBox> txtLikelihood{this, "txtLikelihood", {0, 1, 2, 3, 4, 5}};
   Frame Frame20{this, "Frame20"};
@@ -134,11 +133,11 @@ struct InputForm : Form {
   Frame Frame22{this, "Frame22"};
   ControlArray<OptionButton> opSurvSelModel{this, "opSurvSelModel", {0, 1}};  // parametric, nonparametric
   Frame frmSurvSelModel{this, "frmSurvSelModel"};
-  ControlArray<OptionButton> opSurvSelParametric{
-      this, "opSurvSelParametric", {0, 1}};  // flat-topped, 3 parameters
+  // flat-topped, 3 parameters
+  ControlArray<OptionButton> opSurvSelParametric{this, "opSurvSelParametric", {0, 1}};
   Frame frmSurvSelEstPar{this, "frmSurvSelEstPar"};
-  ControlArray<CheckBox> chkSurvSelParEst{
-      this, "chkSurvSelParEst", {0, 1, 2}};  // log gamma, log beta, log a50
+  // log gamma, log beta, log a50
+  ControlArray<CheckBox> chkSurvSelParEst{this, "chkSurvSelParEst", {0, 1, 2}};
   ControlArray<Label> lblSurvSelParEst{this, "lblSurvSelParEst", {0, 1, 2}};
   ControlArray<TextBox> txtSurvSelParEst{this, "txtSurvSelParEst", {0, 1, 2}};
   Frame Frame7{this, "Frame7"};

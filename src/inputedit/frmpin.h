@@ -15,8 +15,8 @@ struct PinForm : Form {
 
   TabStrip SSTab1{this, "SSTab1"};  // biological, fishery, survey
   ControlArray<Label> Label1{this, "Label1", {0, 1, 2, 3, 4, 5, 6}};
-  // 0 natural mortality, 1 log of mean recruitment, 2 log of mean fishing mortality, 3 CPUE q, 4 CPUE
-  // exponent
+  // 0 natural mortality, 1 log of mean recruitment, 2 log of mean fishing mortality, 3 CPUE q,
+  // 4 CPUE exponent
   ControlArray<TextBox> txtParmFile{this, "txtParmFile", {0, 1, 2, 3, 4}};
   // 0 recruitment deviations, 1 fishing mortality deviations, 2 parametric fishery selectivity, 3 survey
   // index, 4 nonparametric fishery selectivity by period, 5 parametric and 6 nonparametric survey

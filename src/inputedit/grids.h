@@ -1,9 +1,8 @@
 // Shape and labels of the grids of frmInput and frmPin.
 //
 // The build index names a grid of either form:
-//   frmInput: 1 grid 0, 2 grid 1, 3 grid 15, 4 grid 3, 5 grid 6, 6 grid 4, 7 grid 7, 8 grid 8, 9 grid 9, 10
-//   grid 5,
-//             11 grid 10, 12 grid 11, 13 grid 12, 14 grid 14, 15 grid 13, 16 grid 16
+//   frmInput: 1 grid 0, 2 grid 1, 3 grid 15, 4 grid 3, 5 grid 6, 6 grid 4, 7 grid 7, 8 grid 8, 9 grid 9,
+//             10 grid 5, 11 grid 10, 12 grid 11, 13 grid 12, 14 grid 14, 15 grid 13, 16 grid 16
 //   frmPin:   32 grid 2, 33 grid 4, 34 grid 3, 35 grid 5, 36 grid 6, 37 grid 7
 #pragma once
 
@@ -23,8 +22,7 @@ Grid& CaseGrid(int number);
 // and shows the fit column of grids 5 and 16 as its box says. Raises 7 "Out of memory" for a table beyond the
 // bound, 5-digit dimensions included, and 9 "Subscript out of range" for an index without a grid.
 void BuildGrid(int build_index);
-// BuildGrid for 1 to 16 and for 32 to 37: every grid of frmInput, every one of frmPin but the two of
-// deviations.
+// BuildGrid for 1 to 16 and for 32 to 37: all grids of frmInput, all of frmPin but the two of deviations.
 void BuildAllInputGrids();
 void BuildAllPinGrids();
 

@@ -27,8 +27,8 @@ void frmInput_chkSurvFit_Click(int);
 void frmInput_listSurvSample_Click(int);
 void frmInput_txtFishSelAge_LostFocus(int);
 
-// Sets the fishery frames of frmPin, swaps ORVFlexGrid(11) and txtFishSelAge, hides or shows the log gamma
-// row.
+// Sets the fishery frames of frmPin, swaps ORVFlexGrid(11) and txtFishSelAge, hides or shows the row of log
+// gamma.
 void ApplyFishSelModel();
 // Sets the survey frames of frmPin, hides or shows the log gamma row.
 void ApplySurvSelModel();
