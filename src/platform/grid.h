@@ -47,6 +47,8 @@ class Grid : public Control {
   Color CellBackColor(int row, int col) const;  // kWindowBackground where none was set
   Color CellForeColor(int row, int col) const;  // kBlack where none was set
   void SetCellColors(int row, int col, Color back, Color fore);
+  Color BackColorSel = kBlue;  // of the selected range
+  Color ForeColorSel = kWindowBackground;
   void SetFormatString(std::string_view format) { format_ = format; }
   const std::string& FormatString() const { return format_; }
 

@@ -48,6 +48,7 @@ struct RunModelTest : ProgramTest {
 };
 
 TEST_F(RunModelTest, the_real_model_fits_the_example_and_its_results_are_scanned) {
+  frmMain->mnuViewLog.SetEnabled(false);
   Run();
   EXPECT_EQ(host.TakeTexts(), (std::vector<std::string>{kQuestion, "Input Files Have Been Saved",
                                                         "Tarnvik - Model Run Completed"}));
