@@ -155,8 +155,9 @@ void frmInput_lblSurvTitle_Click(int) {
 void frmInput_ORVFlexGrid_event9(int index) {
   if (index == 1) frmInput->cmdCondenseGrd(1).SetEnabled(true);
   if (index == 5) frmInput->cmdCondenseGrd(0).SetEnabled(true);
-  const Grid& grid = frmInput->ORVFlexGrid(index);
-  if (index == 8 && grid.Col == 1 && grid.Row > 1 && PeriodEditWarned == kFalse) {
+  if (index != 8 || PeriodEditWarned == kTrue) return;
+  const Grid& grid = frmInput->ORVFlexGrid(8);
+  if (grid.Col == 1 && grid.Row > 1) {
     ShowMessage(std::string("Editing the Selectivity Period Start Year Will Automatically") + kLineBreak +
                     "Adjust the End Year of the Previous Selectivity Period",
                 Icon::Information);

@@ -14,11 +14,24 @@ class GridTools : public ExampleCase {
       for (int col = 1; col < InputGrid(grid).Cols(); ++col) InputGrid(grid).SetTextMatrix(row, col, " ");
     }
   }
-  std::vector<std::string> Row(int grid, int row) {
-    std::vector<std::string> cells;
+  // The cells of a row, each with a bar behind it.
+  std::string Row(int grid, int row) {
+    std::string cells;
     for (int col = 0; col < InputGrid(grid).Cols(); ++col)
-      cells.push_back(InputGrid(grid).TextMatrix(row, col));
+      cells += InputGrid(grid).TextMatrix(row, col) + "|";
     return cells;
+  }
+  // Presses a "Fill Blanks" button and answers the dialog; what the dialog said.
+  std::string Fill(int button, const char* value) {
+    std::string said;
+    host.modal_acts.push_back([&] {
+      said = frmFillNoData->txtWhichGrid.Text() + "|" + frmFillNoData->lblExplain.Caption();
+      frmFillNoData->txtDataVal.SetText(value);
+      (*value ? frmFillNoData->cmdOK : frmFillNoData->cmdCancel).UserClick();
+    });
+    frmInput->cmdFillBlanks(button).UserClick();
+    EXPECT_FALSE(frmFillNoData.Loaded());
+    return said;
   }
 };
 
@@ -32,86 +45,64 @@ TEST_F(GridTools, condensing_and_expanding_keep_rows_by_year) {
   EXPECT_EQ(InputGrid(1).Rows(), 49);
   EXPECT_EQ(FishAgeNYears, 48);
   EXPECT_EQ(FishCPUENYears, 52);
-  EXPECT_EQ(Row(1, 0)[1], "Fit? (y/n)");
+  EXPECT_EQ(Row(1, 0).substr(0, 16), "Year|Fit? (y/n)|");
   EXPECT_EQ(Row(1, 1), kept);
-  EXPECT_EQ(Row(1, 2)[0], "1966");
+  EXPECT_EQ(Row(1, 2), "1966| | | | | | | | |");
   EXPECT_EQ(Row(1, 48), last);
 
   frmInput->cmdExpandGrd(1).UserClick();
   EXPECT_EQ(InputGrid(1).Rows(), 53);
   EXPECT_EQ(FishAgeNYears, 52);
-  EXPECT_EQ(Row(1, 1), (std::vector<std::string>{"1963", "", "", "", "", "", "", "", ""}));
+  EXPECT_EQ(Row(1, 1), "1963|||||||||");
   EXPECT_EQ(Row(1, 3), kept);
   EXPECT_EQ(Row(1, 50), last);
-  EXPECT_EQ(Row(1, 52)[0], "2014");
+  EXPECT_EQ(Row(1, 52), "2014|||||||||");
 }
 
 TEST_F(GridTools, condensing_keeps_what_counts_as_data) {
   const struct {
-    int row, col;  // where data stand; 0 for nowhere
-    const char* year;
-  } rows[] = {{52, 2, "2014"}, {1, 1, "1963"}, {20, 1, "1982"}, {0, 0, "1963"}};
+    int row, col;
+    const char* kept;
+  } rows[] = {{52, 2, "2014| |n|"}, {1, 1, "1963|n| |"}, {20, 1, "1982|n| |"}, {0, 0, "1963|||"}};
   for (const auto& row : rows) {
     Read();
     Blank(5, 1, 52);
     if (row.row > 0) InputGrid(5).SetTextMatrix(row.row, row.col, "n");
     frmInput->cmdCondenseGrd(0).UserClick();
-    EXPECT_EQ(InputGrid(5).Rows(), 2) << row.year;
-    EXPECT_EQ(FishCPUENYears, 1) << row.year;
-    EXPECT_EQ(Row(5, 1)[0], row.year);
-    if (row.row > 0) {
-      EXPECT_EQ(InputGrid(5).TextMatrix(1, row.col), "n");
-    }
-    CondenseGrid(0);
-    EXPECT_EQ(InputGrid(5).Rows(), 2) << row.year;
+    EXPECT_EQ(Row(5, 1), row.kept);
+    EXPECT_EQ(InputGrid(5).Rows(), 2) << row.kept;
+    EXPECT_EQ(FishCPUENYears, 1) << row.kept;
   }
 }
 
 TEST_F(GridTools, blanks_are_filled_from_the_dialog) {
   Blank(1, 1, 1);
   Blank(1, 3, 3);
-  std::vector<std::string> shown;
-  const auto fill = [&] {
-    shown = {frmFillNoData->txtWhichGrid.Text(), frmFillNoData->lblExplain.Caption()};
-    frmFillNoData->txtDataVal.SetText("-99");
-    frmFillNoData->cmdOK.UserClick();
-  };
-  host.modal_acts.push_back(fill);
-  frmInput->cmdFillBlanks(1).UserClick();
-  EXPECT_FALSE(frmFillNoData.Loaded());
-  EXPECT_EQ(shown,
-            (std::vector<std::string>{"Fishery Age Composition Data",
-                                      "The current grid will be condensed and blank grid cells for Fishery "
-                                      "Proportion at Age will be filled with this value."}));
+  EXPECT_EQ(
+      Fill(1, "-99"),
+      "Fishery Age Composition Data|The current grid will be condensed and blank grid cells for Fishery "
+      "Proportion at Age will be filled with this value.");
   EXPECT_EQ(InputGrid(1).Rows(), 52);
-  EXPECT_EQ(Row(1, 2),
-            (std::vector<std::string>{"1965", " ", " ", "-99", "-99", "-99", "-99", "-99", "-99"}));
+  EXPECT_EQ(Row(1, 2), "1965| | |-99|-99|-99|-99|-99|-99|");
 
   InputGrid(5).SetTextMatrix(2, 1, "");
-  host.modal_acts.push_back(fill);
-  frmInput->cmdFillBlanks(0).UserClick();
-  EXPECT_EQ(shown[0], "Observed Fishery CPUE Data");
-  EXPECT_EQ(Row(5, 2), (std::vector<std::string>{"1964", "-99", "n"}));
+  Fill(0, "");  // cancelled
+  EXPECT_EQ(Row(5, 2), "1964||n|");
+  EXPECT_EQ(
+      Fill(0, "-1"),
+      "Observed Fishery CPUE Data|The current grid will be condensed and blank grid cells for Fishery CPUE "
+      "will be filled with this value.");
+  EXPECT_EQ(Row(5, 2), "1964|-1|n|");
 
   frmInput->cmbiSurv.UserSelect(1);
   Blank(15, 1, 1);
-  host.modal_acts.push_back(fill);
-  frmInput->cmdFillBlanks(2).UserClick();
-  EXPECT_EQ(shown, (std::vector<std::string>{
-                       "Survey 2 Age Composition Data",
-                       "Blank grid cells for Survey 2 Proportion at Age will be filled with this value."}));
+  EXPECT_EQ(
+      Fill(2, "-99"),
+      "Survey 2 Age Composition Data|Blank grid cells for Survey 2 Proportion at Age will be filled with "
+      "this value.");
   frmInput->cmbiSurv.UserSelect(0);
   frmInput->cmbiSurv.UserSelect(1);
-  EXPECT_EQ(Row(15, 1),
-            (std::vector<std::string>{"1992", " ", " ", "-99", "-99", "-99", "-99", "-99", "-99"}));
-
-  InputGrid(5).SetTextMatrix(2, 1, "");
-  host.modal_acts.push_back([] {
-    frmFillNoData->txtDataVal.SetText("-1");
-    frmFillNoData->cmdCancel.UserClick();
-  });
-  frmInput->cmdFillBlanks(0).UserClick();
-  EXPECT_EQ(Row(5, 2)[1], "");
+  EXPECT_EQ(Row(15, 1).substr(9), "-99|-99|-99|-99|-99|-99|");
 }
 
 TEST_F(GridTools, survey_title_goes_into_every_label) {

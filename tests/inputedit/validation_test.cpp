@@ -62,28 +62,19 @@ TEST_F(Validation, bad_cell_is_named) {
       {1, 3, 1, " ", 1, "Fishery Age Data Incomplete|Missing Choice for Fitting Fishery Age Compostition Data at Year 1965"},
       {1, 3, 1, "1", 1, "Invalid Value for Fitting Fishery Age Compostition Data at Year 1965|"
                         "Please Enter Either 'y' for Yes or 'n' for No"},
-      {1, 52, 2, "", 1, "Fishery Age Composition Data Incomplete|Missing Sample Size at Year 2014"},
       {1, 52, 2, "-1", 1, "Invalid Value for Fishery Age Data Sample Size for Year 2014"},
       {1, 2, 8, "", 1, "Maturity at Age Data Incomplete|Missing Value for Age 6 at Year 1964"},
-      {5, 1, 1, "", 2, "Fishery CPUE Data Incomplete|Missing Value for Observed Fishery CPUE at Year 1963"},
-      {8, 2, 1, "", 3, "Years for Fishery Selectivity Periods are Incomplete|Missing Value for Selectivity Period 2"},
       {8, 4, 1, "2015", 3, "Invalid Value for Fishery Selectivity Period 4"},
       {8, 3, 1, "1971", 3, "Value for Fishery Selectivity Period 3 Not in Chronological Order"},
       {8, 1, 1, "1964", 3, "Invalid Value in Fishery Selectivity Period Data:|The Start Year for the First Selectivity "
                            "Period Must Be|the Same as the First Year in the Data Set (1963)"},
-      {11, 4, 1, "", 3, "Ages to Estimate Fishery Selectivity are Incomplete|Missing Value for Selectivity Period 4"},
       {11, 4, 1, "7", 3, "Invalid Value for Age to Estimate Fishery Selectivity|for Selectivity Period 4"},
-      {12, 2, 1, "", 6, "Missing Value for Number of Age Groups to Estimate Survey Selectivity"},
       {12, 2, 1, "0", 6, "Invalid Value for Number of Age Groups to Estimate Survey Selectivity"},
-      {10, 6, 2, "", 7, "Grid of Ages to Include in Surveys is Incomplete|Missing Choice for Survey 2 for Age 6"},
       {10, 6, 2, "1", 7, "Invalid Value for Including Age 6 in Survey 2|Please Enter Either 'y' for Yes or 'n' for No"},
       {3, 1, 1, "1.01", 7, "Invalid Value for Survey 2: IBTS_Q3_gam for Fraction of Z"},
       {9, 2, 1, "", 7, "Missing Value for Age Composition Likelihood for Survey 2: IBTS_Q3_gam"},
-      {9, 1, 2, "-1", 7, "Invalid Value for Biomass Index Likelihood for Survey 1: IBTS_Q1_gam"},
-      {0, 52, 1, "", 8, "Catch Data is Incomplete|Missing Value for year 2014"},
       {0, 1, 1, "-1", 8, "Invalid Value for Catch Biomass for year 1963"},
       {6, 1, 6, "", 8, "Catch Weight at Age Data Incomplete|Missing Value for Age 6 at Year 1963"},
-      {4, 2, 1, "-1", 9, "Invalid Value for Stock Weight at Age 1 at Year 1964"},
       {14, 2, 2, "", 10, "Spawning Weight at Age Data Incomplete|Missing Value for Age 2 at Year 1964"},
       {7, 52, 6, "-1", 11, "Invalid Value for Maturity at Age 6 at Year 2014"},
   };
@@ -103,11 +94,8 @@ TEST_F(Validation, bad_cell_is_named) {
 TEST_F(Validation, bad_cell_of_a_survey_is_named_and_the_survey_stays_selected) {
   const struct { int survey, grid, row, col; const char* text; const char* message; } rows[] = {
       {2, 16, 1, 1, "", "Survey Biomass Index Data Incomplete for Survey 2|Missing Value Year 1992"},
-      {2, 16, 23, 2, "", "Survey Biomass Index Data Incomplete for Survey 2|Missing Choice to Fit Index Values for Year 2014"},
       {1, 16, 1, 2, "x", "Invalid Value for Choice to Fit Survey 1 Index Values in Year 1983"},
-      {2, 15, 2, 1, "", "Survey 2 Data Incomplete|Missing Sample Size Value at Year 1993"},
       {2, 15, 2, 1, "-50", "Invalid Value for Survey 2 Sample Size|at Year 1993"},
-      {1, 15, 32, 2, "", "Survey 1 Data Incomplete|Missing Choice to Fit Age Composition Values  for Year 2014"},
       {1, 15, 32, 2, "0", "Invalid Value for Survey 1 Choice to Fit Age Composition Values in Year 2014"},
       {2, 15, 1, 8, "", "Survey 2 Data Incomplete|Missing Value for Age 6 at Year 1992"},
   };
@@ -132,29 +120,19 @@ TEST_F(Validation, bad_field_is_named_while_it_is_in_use) {
   const struct { const char* field; int index; const char* text; int tab; const char* message; } rows[] = {
       {"txtNBoot", -1, " ", 0, "Missing Value for the Number of Bootstrap Repetitions"},
       {"txtNBoot", -1, "10x", 0, "Invalid Value for the Number of Bootstrap Repetitions"},
-      {"txtBootSeed", -1, "", 0, "Missing Value for Bootstrap Random Number Seed"},
       {"txtBootSeed", -1, "-1", 0, "Invalid Value for Bootstrap Random Number Seed"},
       {"txtPhaseFishGamma", -1, "", 3, "Invalid Value for Phase to Estimate Fishery log gamma"},
-      {"txtPhaseFishBeta", -1, "-1", 3, "Invalid Value for Phase to Estimate Fishery log beta"},
-      {"txtPhaseFishA50", -1, "", 3, "Invalid Value for Phase to Estimate Fishery log a50"},
       {"txtPhaseFSelNonPar", -1, "", 3, "Invalid Value for Phase to Estimate Nonparametric Fishery Selectivity"},
-      {"txtFishSelAge", -1, "", 3, "Missing Value for Age to Estimate Fishery Selectivity"},
       {"txtFishSelAge", -1, "abc", 3, "Invalid Value for Age to Estimate Fishery Selectivity"},
       {"txtEstimate", 10, "", 4, "Invalid Value for Phase to begin Estimating CPUE q"},
-      {"txtEstimate", 11, "-1", 4, "Invalid Value for Phase to begin Estimating CPUE exponent"},
-      {"txtEstimate", 4, "", 4, "Invalid Value for Phase to Estimate Effective Sample Size for Fishery"},
       {"txtSurvSelParEst", 0, "", 6, "Invalid Value for Phase to Estimate Survey log gamma"},
       {"txtSurvSelParEst", 1, "-1", 6, "Invalid Value for Phase to Estimate Survey log beta"},
       {"txtSurvSelParEst", 2, "", 6, "Invalid Value for Phase to Estimate Survey log a50"},
       {"txtSurvSelNonParEst", -1, "-3", 6, "Invalid Value for Phase to Estimate Nonparametric Survey Selectivity"},
       {"txtEstimate", 2, "", 7, "Invalid Value for Phase to begin Estimating Survey q"},
-      {"txtEstimate", 3, "", 7, "Invalid Value for Phase to begin Estimating Survey Exponent"},
       {"txtEstSurvSample", -1, "", 7, "Invalid Value for Phase to begin Estimating Effective Sample Size for Surveys"},
       {"txtEstimate", 0, "", 12, "Invalid Value for CV for M"},
-      {"txtEstimate", 1, "-1", 12, "Invalid Value for Phase to Begin Estimating M"},
       {"txtPhaseLogRec", -1, "-1", 12, "Invalid Value for Phase to Estimate Mean Logscale Recruitment"},
-      {"txtPhaseRecDev", -1, "-1", 12, "Invalid Value for Phase to Estimate Recruitment Deviations"},
-      {"txtPhaseFMort", -1, "", 12, "Invalid Value for Phase to Estimate Mean Logscale Fishing Mortality"},
       {"txtPhaseFMortDev", -1, "", 12, "Invalid Value for Phase to Estimate Fishing Mortality Deviations"},
       {"txtEstimate", 5, "", 12, "Missing Value for Initial Equilibrium for Catch Biomass"},
       {"txtEstimate", 13, "", 12, "Missing Value for Limit F"},
@@ -179,14 +157,12 @@ TEST_F(Validation, bad_field_is_named) {
   const struct { const char* field; int index; const char* text; int tab; const char* message; } rows[] = {
       {"txtZCpue", -1, "", 2, "Missing Value for Fraction of Z Prior to CPUE Index"},
       {"txtZCpue", -1, "1.1", 2, "Invalid Value for Fraction of Z Prior to CPUE Index"},
-      {"txtLikelihood", 2, "", 4, "Missing Value for Fishery Age Composition Likelihood Emphasis Factor"},
       {"txtLikelihood", 4, "-1", 4, "Invalid Value for Fishery Selectivity Likelihood Emphasis Factor"},
       {"txtFractionZ", -1, "", 10, "Invalid Value for Fraction of Z Prior to Spawning Season"},
       {"txtFractionZ", -1, "1.5", 10, "Invalid Value for Fraction of Z Prior to Spawning Season"},
       {"txtEpsilon", -1, "", 12, "Invalid Value for Small Positive Number to Prevent log(0)"},
       {"txtVarCoeff", 2, "", 12, "Missing Value for the Coefficient of Variation for the Catch Biomass Deviations"},
       {"txtVarCoeff", 3, "-1.1", 12, "Invalid Value for the Coefficient of Variation for the Fishing Mortality Deviations"},
-      {"txtLikelihood", 1, "-1", 12, "Invalid Value for Recruitment Likelihood Emphasis Factor"},
       {"txtLikelihood", 5, "", 12, "Missing Value for F Penalty Likelihood Emphasis Factor"},
   };
   // clang-format on
@@ -203,17 +179,15 @@ TEST_F(Validation, bad_field_is_named) {
 }
 
 TEST_F(Validation, cpue_flag_is_the_letter_alone_and_read_only_when_fitted) {
-  for (const auto& [text, message] :
-       {std::pair{" Y ", ""},
-        {"", "Fishery CPUE Data Incomplete|Missing Choice for Fitting Fishery CPUE Data at Year 1964"},
-        {"yes",
-         "Invalid Value for Fitting Fishery CPUE Data at Year 1964|Please Enter Either 'y' for Yes or 'n' "
-         "for No"}}) {
+  const std::string invalid =
+      "Invalid Value for Fitting Fishery CPUE Data at Year 1964|"
+      "Please Enter Either 'y' for Yes or 'n' for No";
+  for (const auto& [text, message] : {std::pair{" Y ", std::string()}, {"yes", invalid}}) {
     InputGrid(5).SetTextMatrix(2, 2, text);
-    frmInput->chkFitFishCPUE.UserCheck(0);
-    EXPECT_EQ(Fault(), "");
-    frmInput->chkFitFishCPUE.UserCheck(1);
-    EXPECT_EQ(Fault(), message);
+    for (const int fitted : {0, 1}) {
+      frmInput->chkFitFishCPUE.UserCheck(fitted);
+      EXPECT_EQ(Fault(), fitted ? message : "");
+    }
   }
 }
 
