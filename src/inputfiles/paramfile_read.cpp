@@ -11,6 +11,7 @@
 #include "inputedit/frmpin.h"
 #include "inputedit/grids.h"
 #include "inputedit/options.h"
+#include "inputfiles/datafile_read.h"
 #include "inputfiles/file_version.h"
 #include "inputfiles/paramfile.h"
 #include "platform/host.h"
@@ -35,24 +36,17 @@ double ReadVersion() {
   return version;
 }
 
-void ReadField(int field) { frmPin->txtParmFile(field).SetText(Trim(ReadDataLine())); }
-
 // Words of a line into the row's columns from 1 on; columns for which the line has no word become empty.
 void FillRow(Grid& grid, int row, int count, std::string_view line) {
-  std::string_view word = TokenFirst(line);
-  for (int col = 1; col <= std::min(count, grid.Cols() - 1); ++col) {
-    grid.SetTextMatrix(row, col, word);
-    word = TokenNext(line);
-  }
+  LineWords words(line);
+  for (int col = 1; col <= std::min(count, grid.Cols() - 1); ++col)
+    grid.SetTextMatrix(row, col, words.Next());
 }
 
 // The same down the rows of column 1.
 void FillDeviations(Grid& grid, int count, std::string_view line) {
-  std::string_view word = TokenFirst(line);
-  for (int row = 1; row <= std::min(count, grid.Rows() - 1); ++row) {
-    grid.SetTextMatrix(row, 1, word);
-    word = TokenNext(line);
-  }
+  LineWords words(line);
+  for (int row = 1; row <= std::min(count, grid.Rows() - 1); ++row) grid.SetTextMatrix(row, 1, words.Next());
 }
 
 void ReadRecruitmentDeviations() {
@@ -124,15 +118,16 @@ void ReadSurveys(double version) {
 // Reads the open file. False, with a message, when it has no survey index parameters.
 bool ReadParameters() {
   constexpr int kSurveyIndex = 34;
+  const ControlArray<TextBox>& field = frmPin->txtParmFile;
   const double version = ReadVersion();
-  ReadField(0);
-  ReadField(1);
+  ReadField(field(0));
+  ReadField(field(1));
   ReadRecruitmentDeviations();
-  frmPin->txtParmFile(2).SetText(TokenFirst(ReadDataLine()));
+  field(2).SetText(TokenFirst(ReadDataLine()));
   ReadFishingDeviations();
   if (version >= 1.2) {
-    ReadField(3);
-    ReadField(4);
+    ReadField(field(3));
+    ReadField(field(4));
   }
   ReadFishery(version);
   BuildGrid(kSurveyIndex);

@@ -4,6 +4,7 @@
 #include "core/text.h"
 #include "inputedit/frminput.h"
 #include "inputedit/frmpin.h"
+#include "inputfiles/datafile_write.h"
 #include "inputfiles/paramfile.h"
 #include "platform/files.h"
 #include "platform/host.h"
@@ -13,10 +14,7 @@ namespace tarnvik {
 namespace {
 
 void PrintCells(OutputFile& file, const Grid& grid, int row, int count) {
-  for (int col = 1; col <= count; ++col) {
-    file.Print(grid.TextMatrix(row, col));
-    file.Print(" ");
-  }
+  for (int col = 1; col <= count; ++col) PrintItem(file, grid.TextMatrix(row, col), kOneBlank);
   file.EndLine();
 }
 
@@ -29,11 +27,7 @@ void WriteField(OutputFile& file, int field) { file.PrintLine(frmPin->txtParmFil
 
 void WriteDeviations(OutputFile& file, int index) {
   const Grid& grid = frmPin->ORVFlexGrid1(index);
-  for (int row = 1; row < grid.Rows(); ++row) {
-    file.Print(grid.TextMatrix(row, 1));
-    file.Print(" ");
-  }
-  file.EndLine();
+  WriteColumn(file, grid, 1, grid.Rows() - 1, kOneBlank);
 }
 
 // The parameters of a selectivity function by their row in the grid: log gamma, log beta, log a50.
@@ -106,12 +100,12 @@ void WriteFishYears(OutputFile& file, int) {
   }
 }
 
-// The file from its fourth line on. A comment that ends in a parenthesis goes on with the titles of the
-// surveys.
+// The file from its fourth line on.
 struct Section {
   const char* comment;
   void (*write_values)(OutputFile& file, int argument) = nullptr;  // null: a heading
   int argument = 0;                                                // a field, a grid, or a row of a grid
+  bool with_titles = false;                                        // the comment names the surveys
 };
 
 constexpr Section kSections[] = {
@@ -129,34 +123,25 @@ constexpr Section kSections[] = {
     {"# log_a50_FISH", WriteFishParameter, 3},
     {"# log_sel_period_FISH", WriteFishPeriods},
     {"# SURVEY INDEX PARAMETERS"},
-    {"# qSURVEY (", WriteSurveyIndex, 1},
-    {"# exp_SURVEY (", WriteSurveyIndex, 2},
-    {"# log_gamma_SURVEY (", WriteSurveyParameter, kLogGamma},
-    {"# log_beta_SURVEY (", WriteSurveyParameter, 2},
-    {"# log_a50_SURVEY (", WriteSurveyParameter, 3},
+    {"# qSURVEY", WriteSurveyIndex, 1, true},
+    {"# exp_SURVEY", WriteSurveyIndex, 2, true},
+    {"# log_gamma_SURVEY", WriteSurveyParameter, kLogGamma, true},
+    {"# log_beta_SURVEY", WriteSurveyParameter, 2, true},
+    {"# log_a50_SURVEY", WriteSurveyParameter, 3, true},
     {"# log_sel_period_SURVEY", WriteSurveySelectivities},
     {"# log_sel_annual_FISH", WriteFishYears},
 };
 
-std::string TitlesOfSurveys() {
-  std::string titles;
-  for (int survey = 1; survey <= NIndex; ++survey) {
-    if (survey > 1) titles += ',';
-    titles += SurvTitle(survey);
-  }
-  return titles;
-}
-
 void WriteSections(OutputFile& file) {
-  const std::string titles = TitlesOfSurveys();
   file.PrintLine("# Statistical Catch-at-Age Model: Tarnvik Version 1.4");
   file.PrintLine("# Model Description:  " + frmInput->txtModel.Text());
   file.PrintLine("# FILE " + PinFilePath + " SETS INITIAL PARAMETER VALUES");
   for (const Section& section : kSections) {
-    const std::string_view comment = section.comment;
-    file.Print(comment);
-    if (comment.back() == '(') file.Print(titles + ")");
-    file.EndLine();
+    if (section.with_titles) {
+      EndWithTitles(file, section.comment);
+    } else {
+      file.PrintLine(section.comment);
+    }
     if (section.write_values) section.write_values(file, section.argument);
   }
 }

@@ -61,11 +61,8 @@ bool ResultsAreCurrent() {
 void CheckResultsCurrent() {
   try {
     if (!ResultsAreCurrent()) return;
-    MainForm& menu = *frmMain;
-    for (MenuItem* entry : {&menu.mnuModelScan, &menu.mnuViewReport, &menu.mnuViewStdDev, &menu.mnuViewOutPar,
-                            &menu.mnuViewLog, &menu.mnuViewPlotCollect}) {
-      entry->SetEnabled(true);
-    }
+    EnableResultMenus();
+    frmMain->mnuViewLog.SetEnabled(true);
   } catch (...) {
     const std::string reason = CurrentErrorText();
     File1.Close();
