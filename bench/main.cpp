@@ -143,6 +143,7 @@ class KeepTimes : public benchmark::ConsoleReporter {
   bool ReportContext(const Context&) override { return true; }
   void ReportRuns(const std::vector<Run>& runs) override {
     for (const Run& run : runs) {
+      if (run.run_type == Run::RT_Aggregate) continue;
       const double time = run.GetAdjustedRealTime();
       auto [at, added] = times.try_emplace(run.run_name.function_name, time);
       if (!added && time < at->second) at->second = time;
