@@ -39,10 +39,14 @@ void CheckWantedSize(int years, int ages, int surveys) {
     NewNFYear = NFYear;
     NewNXYear = NXYear;
     NewNYears = NYears;
+    NewNAges = NAges;
+    NewNIndex = NIndex;
+    LoadingForm = kTrue;  // each of these handlers would look at what the other combos show
     SelectNumber(frmInput->cmbNFYear, NFYear);
     SelectNumber(frmInput->cmbNXYear, NXYear);
     SelectNumber(frmInput->cmbNAges, NAges);
     SelectNumber(frmInput->cmbNIndex, NIndex);
+    LoadingForm = kFalse;
     throw;
   }
 }

@@ -110,7 +110,14 @@ void CheckCaseSize(int years, int ages, int surveys) {
 int SelectedSurvey() { return frmInput->cmbiSurv.ListIndex() + 1; }
 
 void ReDimSurveys() {
-  CheckCaseSize(NYears, NAges, NIndex);
+  try {
+    CheckCaseSize(NYears, NAges, NIndex);
+  } catch (const RunTimeError&) {
+    // The store is still that of another case: whoever opens the next file must not walk it by these
+    // dimensions.
+    for (std::int16_t* size : {&NFYear, &NXYear, &NYears, &NAges, &NIndex, &NSelPer, &RecYr}) *size = 0;
+    throw;
+  }
   SurvFYear.ReDim(NIndex);
   SurvXYear.ReDim(NIndex);
   SurvNYears.ReDim(NIndex);

@@ -20,8 +20,8 @@ void frmInput_cmbSurvXYear_Click(int);
 void CheckCaseSize(int years, int ages, int surveys);
 
 // Sizes the store for NIndex surveys, NYears years and NAges ages and gives each survey its default title and
-// span and no fit flag. Raises 7 "Out of memory" beyond the bound of a table, before anything has changed.
-// The year cells of both tables stay empty.
+// span and no fit flag. The year cells of both tables stay empty. Beyond the bound of a table the store stays
+// as it was, no dimension is in force any more (all 0) and 7 "Out of memory" is raised.
 void ReDimSurveys();
 // Refits the store to the wanted years: rows keep their year, those outside are lost, new ones are empty. A
 // survey's own span is cut, never widened; a survey wholly outside keeps the one year at the near end.
