@@ -30,7 +30,8 @@ std::string Row(int count, const std::function<std::string(int)>& value, const c
 }
 
 std::string Same(int count, const char* text) {
-  return Row(count, [text](int) { return std::string(text); }, " ");
+  return Row(
+      count, [text](int) { return std::string(text); }, " ");
 }
 
 std::string Numbers(int count) {
@@ -75,8 +76,10 @@ void WriteData(const std::string& path) {
   w.Item("Number of age classes", std::to_string(A));
   w.Item("Number of surveys", std::to_string(S));
   w.Item("Number of fishery selectivity periods", std::to_string(P));
-  w.Item("Starting years", Row(P, [](int i) { return std::to_string(kLargeFirstYear + 20 * i); }, " "));
-  w.Item("nselage_FISH", Row(P, [](int) { return std::to_string(A); }, " "));
+  w.Item("Starting years", Row(
+                               P, [](int i) { return std::to_string(kLargeFirstYear + 20 * i); }, " "));
+  w.Item("nselage_FISH", Row(
+                             P, [](int) { return std::to_string(A); }, " "));
   w.Item("use_parametric_sel_FISH", "1");
   w.Item("smoothers", "0 0 0 ");
   w.Item("Catch biomass", Numbers(Y));
@@ -91,10 +94,12 @@ void WriteData(const std::string& path) {
   w.Item("Years of fishery age composition data", Years());
   w.Item("Number of age samples", Same(Y, "100"));
   w.Table("# Fishery age composition data", Y, A);
-  w.Item("nselages_SURVEY", Row(S, [](int) { return std::to_string(A); }, " "));
+  w.Item("nselages_SURVEY", Row(
+                                S, [](int) { return std::to_string(A); }, " "));
   w.Item("use_parametric_sel_SURVEY", "1");
   w.Item(("Number of years of SURVEY data (" + Titles() + ")").c_str(),
-         Row(S, [](int) { return std::to_string(Y); }, " "));
+         Row(
+             S, [](int) { return std::to_string(Y); }, " "));
   w.Each("Ages in SURVEY", S, [](int) { return Same(A, "1"); });
   w.Each("Years to fit SURVEY index", S, [](int) { return Same(Y, "1"); });
   w.Each("Years to fit SURVEY ages", S, [](int) { return Same(Y, "1"); });
@@ -112,15 +117,16 @@ void WriteData(const std::string& path) {
   for (const char* value : {"0.2", "0.8", "0.1", "0.5", "1", "1", "1"}) w.Item("CV or emphasis", value);
   w.Item("emphasis SURVEY age composition", Same(S, "1"));
   w.Item("emphasis SURVEY index", Same(S, "10"));
-  for (const char* value : {"1", "1", "1", "0", "1", "0", "123456", "1.0e-12"}) w.Item("emphasis or setting", value);
+  for (const char* value : {"1", "1", "1", "0", "1", "0", "123456", "1.0e-12"})
+    w.Item("emphasis or setting", value);
   for (const char* value : {"0", "1", "1", "1", "1", "0", "0", "0", "1", "0"}) w.Item("flag", value);
   w.Item("fit_survey_index", Same(S, "1"));
   w.Item("fit_survey_index_number_per_tow", Same(S, "0"));
   for (const char* value : {"0", "0", "1", "1", "0"}) w.Item("flag", value);
   w.Item("estimate_effective_sample_size_SURVEY", Same(S, "0"));
   for (const char* value : {"0", "0.0", "0", "0.0", "0.0", "0.0", "0.0"}) w.Item("criteria", value);
-  for (const char* phase : {"-1", "1", "2", "1", "2", "3", "-1", "-1", "3", "3", "-1", "-1", "-1", "-1", "-1", "-1",
-                            "3", "3", "-1", "-1"}) {
+  for (const char* phase : {"-1", "1",  "2",  "1",  "2",  "3",  "-1", "-1", "3",  "3",
+                            "-1", "-1", "-1", "-1", "-1", "-1", "3",  "3",  "-1", "-1"}) {
     w.Item("phase", phase);
   }
   w.file.Close();
@@ -169,9 +175,10 @@ void WriteSurveyBlocks(Writer& w) {
     const std::string survey = std::to_string(s);
     w.Line("Age classes in survey Biomass index, survey " + survey + ": " + Same(A, "1"));
     YearBlock(w, "Observed Biomass index (year) for survey: " + survey);
-    for (const char* key : {"Predicted Biomass index (year) for survey: ", "Biomass index residuals (year) for survey: ",
-                            "Log-scale Biomass index residuals (year) for survey: ",
-                            "Standardized log-scale Biomass index residuals (year) for survey: "}) {
+    for (const char* key :
+         {"Predicted Biomass index (year) for survey: ", "Biomass index residuals (year) for survey: ",
+          "Log-scale Biomass index residuals (year) for survey: ",
+          "Standardized log-scale Biomass index residuals (year) for survey: "}) {
       Block(w, key + survey, 1, Y);
     }
   }
@@ -201,8 +208,8 @@ void WriteReport(const std::string& path) {
   WriteSurveyBlocks(w);
   YearBlock(w, "Fishery age composition input sample size");
   Block(w, "Fishery age composition estimated effective sample size", 1, Y);
-  for (const char* key : {"Observed fishery proportion", "Predicted fishery proportion", "Fishery proportion residuals",
-                          "Standardized fishery proportion residuals"}) {
+  for (const char* key : {"Observed fishery proportion", "Predicted fishery proportion",
+                          "Fishery proportion residuals", "Standardized fishery proportion residuals"}) {
     Block(w, std::string(key) + " at age by year", Y, A);
   }
   WriteSurveyAges(w);
@@ -299,10 +306,25 @@ void WriteDeviations(const std::string& path) {
   const struct {
     const char* name;
     int count;
-  } rows[] = {{"mean_log_rec", 1}, {"rec_dev", Y + A - 1}, {"log_avg_fmort", 1}, {"fmort_dev", Y},
-              {"log_beta_FISH", P}, {"log_a50_FISH", P}, {"qSURVEY", S}, {"meanr", 1}, {"popnbiom", Y},
-              {"spawnbiom", Y}, {"explbiom", Y}, {"recruitment", Y + A - 1}, {"surplus_production", Y - 1},
-              {"deppopnbiom", 1}, {"depspawnbiom", 1}, {"depF", 1}, {"endN", A}, {"projN", A}, {"fullF", Y}};
+  } rows[] = {{"mean_log_rec", 1},
+              {"rec_dev", Y + A - 1},
+              {"log_avg_fmort", 1},
+              {"fmort_dev", Y},
+              {"log_beta_FISH", P},
+              {"log_a50_FISH", P},
+              {"qSURVEY", S},
+              {"meanr", 1},
+              {"popnbiom", Y},
+              {"spawnbiom", Y},
+              {"explbiom", Y},
+              {"recruitment", Y + A - 1},
+              {"surplus_production", Y - 1},
+              {"deppopnbiom", 1},
+              {"depspawnbiom", 1},
+              {"depF", 1},
+              {"endN", A},
+              {"projN", A},
+              {"fullF", Y}};
   for (const auto& row : rows) vector(row.name, row.count);
   w.file.Close();
 }

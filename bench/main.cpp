@@ -1,6 +1,6 @@
-// Measures what must be fast on the largest case, each figure beside a plain program that does the least conceivable
-// work, and prints the ratios. The ratios hold whatever the machine is doing: both sides run in turn, and each side's
-// smallest time counts.
+// Measures what must be fast on the largest case, each figure beside a plain program that does the least
+// conceivable work, and prints the ratios. The ratios hold whatever the machine is doing: both sides run in
+// turn, and each side's smallest time counts.
 #include <benchmark/benchmark.h>
 #include <spawn.h>
 #include <sys/resource.h>
@@ -54,7 +54,8 @@ double SplitAndParse(const std::string& text) {
   while (at < end) {
     while (at < end && (*at == ' ' || *at == '\n' || *at == '\r' || *at == '\t')) ++at;
     const char* word_end = at;
-    while (word_end < end && *word_end != ' ' && *word_end != '\n' && *word_end != '\r' && *word_end != '\t') ++word_end;
+    while (word_end < end && *word_end != ' ' && *word_end != '\n' && *word_end != '\r' && *word_end != '\t')
+      ++word_end;
     double value = 0;
     std::from_chars(at, word_end, value);
     sum += value;
@@ -153,9 +154,13 @@ class KeepTimes : public benchmark::ConsoleReporter {
 };
 
 void Add(const char* name, const std::function<void()>& act) {
-  benchmark::RegisterBenchmark(name, [act](benchmark::State& state) {
-    for (auto _ : state) act();
-  })->Unit(benchmark::kMillisecond)->Repetitions(7)->UseRealTime();
+  benchmark::RegisterBenchmark(name,
+                               [act](benchmark::State& state) {
+                                 for (auto _ : state) act();
+                               })
+      ->Unit(benchmark::kMillisecond)
+      ->Repetitions(7)
+      ->UseRealTime();
 }
 
 }  // namespace
@@ -206,7 +211,9 @@ int Main(int argc, char** argv) {
   benchmark::RunSpecifiedBenchmarks(&reporter);
 
   const auto& t = reporter.times;
-  const auto size = [](const char* name) { return static_cast<double>(std::filesystem::file_size(InFolder(name))); };
+  const auto size = [](const char* name) {
+    return static_cast<double>(std::filesystem::file_size(InFolder(name)));
+  };
   const double bytes = size("large.ctl") + size("large.dat") + size("large.pin");
   std::printf("\n%-22s %9s %9s %7s  %s\n", "", "ms", "least ms", "ratio", "wanted");
   for (const char* name : {"open", "save", "scan"}) {

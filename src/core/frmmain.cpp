@@ -20,8 +20,8 @@ namespace {
 
 std::string DefaultPath(const char* ending) { return InProgramFolder(DefaultRootName() + ending); }
 
-// A default name for one of the three files, in its label and in its path. The label is touched first: the first
-// touch of all loads frmInput, which looks at the paths.
+// A default name for one of the three files, in its label and in its path. The label is touched first: the
+// first touch of all loads frmInput, which looks at the paths.
 void NameByDefault(Label& label, std::string& path, const char* ending) {
   path = DefaultPath(ending);
   ShowPath(label, path);
@@ -45,7 +45,8 @@ void frmMain_MDIForm_Load() {
   frmMain->mnuOptionsExitPromptEnable.SetChecked(true);
   frmMain->mnuOptionsExitPromptDisable.SetChecked(false);
   CtlFileOpen = PinFileOpen = DatFileOpen = kFalse;
-  for (std::string* path : {&CtlFilePath, &DatFilePath, &PinFilePath, &ReportPath, &StdPath, &ParPath}) path->clear();
+  for (std::string* path : {&CtlFilePath, &DatFilePath, &PinFilePath, &ReportPath, &StdPath, &ParPath})
+    path->clear();
   PlotInputOpen = OutputFormsOpen = StdFileRead = ParFileRead = kFalse;
 
   GPYearMin = 1900;
@@ -66,7 +67,8 @@ void frmMain_MDIForm_Load() {
 }
 
 void frmMain_MDIForm_QueryUnload(bool& cancel) {
-  // Every child is asked before the first is unloaded, so that a Cancel loses nothing. Answering may unload others.
+  // Every child is asked before the first is unloaded, so that a Cancel loses nothing. Answering may unload
+  // others.
   std::vector<FormSlot*> children = LoadedForms();
   std::erase(children, &frmMain);
   for (FormSlot* child : children) {
@@ -81,8 +83,9 @@ void frmMain_MDIForm_QueryUnload(bool& cancel) {
 namespace {
 
 void SetResultMenus(bool enabled) {
-  for (MenuItem MainForm::*item : {&MainForm::mnuModelScan, &MainForm::mnuViewReport, &MainForm::mnuViewStdDev,
-                                   &MainForm::mnuViewOutPar, &MainForm::mnuViewPlotCollect}) {
+  for (MenuItem MainForm::*item :
+       {&MainForm::mnuModelScan, &MainForm::mnuViewReport, &MainForm::mnuViewStdDev, &MainForm::mnuViewOutPar,
+        &MainForm::mnuViewPlotCollect}) {
     ((*frmMain).*item).SetEnabled(enabled);
   }
 }

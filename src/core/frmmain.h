@@ -7,7 +7,7 @@ namespace tarnvik {
 
 struct MainForm : Form {
   MainForm();
-  void Load() override;  // frmMain_MDIForm_Load: the start of the program
+  void Load() override;                                      // frmMain_MDIForm_Load: the start of the program
   void QueryUnload(bool& cancel, UnloadMode mode) override;  // closes every child, any of which may cancel
 
   // In the order of the menu bar; captions, shortcuts and parents come from the menu table.
@@ -70,7 +70,8 @@ void frmMain_MDIForm_Load();
 // The main window is closing: asks every child, any of which may cancel, then unloads them all.
 void frmMain_MDIForm_QueryUnload(bool& cancel);
 
-// Disable mnuModelScan, mnuViewReport, mnuViewStdDev, mnuViewOutPar and mnuViewPlotCollect: there are no results.
+// Disable mnuModelScan, mnuViewReport, mnuViewStdDev, mnuViewOutPar and mnuViewPlotCollect: there are no
+// results.
 void DisableResultMenus();
 // Enable the same five: the results on disk belong to the case.
 void EnableResultMenus();

@@ -56,7 +56,8 @@ void frmMain_mnuFileCreateAll_Click(int) {
   if (DatFileOpen == kTrue || PinFileOpen == kTrue) {
     std::string prompt = "Save All Input Files Now?";
     if (PlotInputOpen == kTrue || OutputFormsOpen == kTrue) {
-      prompt += kBreak + kBreak + "Any Windows With Plots Will Be Closed." + kBreak + "To Cancel Action, Click Cancel.";
+      prompt += kBreak + kBreak + "Any Windows With Plots Will Be Closed." + kBreak +
+                "To Cancel Action, Click Cancel.";
     }
     const Answer answer = ShowMessage(prompt, Icon::Question, Buttons::YesNoCancel);
     if (answer == Answer::Cancel) return;
@@ -200,7 +201,8 @@ constexpr MenuRow kMenu[] = {
     {&F::mnuEditCopy, 1, "Copy", "Ctrl+C", 0, frmMain_mnuEditCopy_Click},
     {&F::mnuEditSelect, 1, "Select All", "Ctrl+A", 0, frmMain_mnuEditSelect_Click},
     {&F::mnuData, 0, "Data", "", 0, nullptr},
-    {&F::mnuDataPlotInput, 1, "Plot Input Data and Parameter Values", "", 1004, frmMain_mnuDataPlotInput_Click},
+    {&F::mnuDataPlotInput, 1, "Plot Input Data and Parameter Values", "", 1004,
+     frmMain_mnuDataPlotInput_Click},
     {&F::mnuModel, 0, "Model", "", 0, nullptr},
     {&F::mnuModelRun, 1, "Run Model", "", 1008, frmMain_mnuModelRun_Click},
     {&F::mnuModelScan, 1, "Scan Model Results", "", 1009, frmMain_mnuModelScan_Click},

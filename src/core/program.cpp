@@ -13,8 +13,9 @@ void StartProgram(Host& host) {
 }
 
 void EndProgram() {
-  // The last loaded first: a form's unloading may rely on those that were there before it. Unloading may load forms
-  // again (a caption of frmInput is set), so the state of the flags is gone first and the loop ends with no form.
+  // The last loaded first: a form's unloading may rely on those that were there before it. Unloading may load
+  // forms again (a caption of frmInput is set), so the state of the flags is gone first and the loop ends
+  // with no form.
   for (int rounds = 0; !LoadedForms().empty() && rounds < 100; ++rounds) UnloadForm(*LoadedForms().back());
   File1.Close();
   LineBuf = LineBuffer{};

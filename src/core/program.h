@@ -14,8 +14,8 @@ void EndProgram();
 // False once frmMain has been unloaded.
 bool ProgramRunning();
 
-// Runs what a user's act sets off as one event. An error that no routine has trapped is shown in a message box;
-// nothing is lost.
+// Runs what a user's act sets off as one event. An error that no routine has trapped is shown in a message
+// box; nothing is lost.
 void RunEvent(const std::function<void()>& act);
 
 }  // namespace tarnvik

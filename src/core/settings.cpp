@@ -80,7 +80,8 @@ void WriteTo(const std::string& path) {
   OutputFile file;
   file.Open(path);
   file.PrintLine(kRangesHead);
-  file.PrintLine("Years: " + NumberText(GPYearMin) + " " + (GPAutoYear == kTrue ? "0" : NumberText(GPYearMax)));
+  file.PrintLine("Years: " + NumberText(GPYearMin) + " " +
+                 (GPAutoYear == kTrue ? "0" : NumberText(GPYearMax)));
   file.PrintLine("Ages: " + NumberText(GPAgeMax));
   file.PrintLine("Surveys: " + NumberText(GPSurveyMax));
   file.PrintLine(kViewerHead);
@@ -100,7 +101,8 @@ void ReadSettingsFile() {
     File1.Open(path);
     ReadSections();
   } catch (const RunTimeError&) {
-    // A damaged settings file must not keep the program from starting: what was read stands, defaults for the rest.
+    // A damaged settings file must not keep the program from starting: what was read stands, defaults for the
+    // rest.
   }
   File1.Close();
   RepairRanges();

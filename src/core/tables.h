@@ -34,8 +34,8 @@ class Array1 {
   std::vector<T> items_;
 };
 
-// A three-index table: survey 1 to Surveys(), column 0 to LastColumn(), row 1 to Rows(). Kept row by row, since
-// files and grids run through it that way. A size beyond the bound of a table raises 7 "Out of memory".
+// A three-index table: survey 1 to Surveys(), column 0 to LastColumn(), row 1 to Rows(). Kept row by row,
+// since files and grids run through it that way. A size beyond the bound of a table raises 7 "Out of memory".
 template <class T>
 class SurveyTable {
  public:
@@ -48,7 +48,8 @@ class SurveyTable {
     columns_ = std::max(last_column + 1, 0);
     rows_ = std::max(rows, 0);
     cells_.assign(static_cast<std::size_t>(surveys_) * static_cast<std::size_t>(columns_) *
-                      static_cast<std::size_t>(rows_), T{});
+                      static_cast<std::size_t>(rows_),
+                  T{});
   }
   // Only the number of surveys changes; those that remain keep their cells.
   void ReDimSurveys(int surveys) {
@@ -66,7 +67,8 @@ class SurveyTable {
       throw RunTimeError(kErrSubscript);
     }
     return (static_cast<std::size_t>(survey - 1) * static_cast<std::size_t>(rows_) +
-            static_cast<std::size_t>(row - 1)) * static_cast<std::size_t>(columns_) +
+            static_cast<std::size_t>(row - 1)) *
+               static_cast<std::size_t>(columns_) +
            static_cast<std::size_t>(column);
   }
   int surveys_ = 0;

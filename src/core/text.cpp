@@ -37,8 +37,9 @@ std::string LCase(std::string_view text) {
 
 std::size_t FindUpper(std::string_view text, std::string_view upper_key, std::size_t from) {
   if (from > text.size()) return std::string_view::npos;
-  const auto found = std::search(text.begin() + static_cast<std::ptrdiff_t>(from), text.end(), upper_key.begin(),
-                                 upper_key.end(), [](char a, char b) { return Upper(a) == b; });
+  const auto found =
+      std::search(text.begin() + static_cast<std::ptrdiff_t>(from), text.end(), upper_key.begin(),
+                  upper_key.end(), [](char a, char b) { return Upper(a) == b; });
   if (found == text.end() && !upper_key.empty()) return std::string_view::npos;
   return static_cast<std::size_t>(found - text.begin());
 }
@@ -56,16 +57,20 @@ double Val(std::string_view text) {
     negative = text[0] == '-';
     text.remove_prefix(1);
   }
-  // from_chars also takes "inf", "nan" and a second sign; a number begins with a digit or a point and a digit.
-  const bool begins = !text.empty() && (IsDigit(text[0]) || (text[0] == '.' && text.size() > 1 && IsDigit(text[1])));
+  // from_chars also takes "inf", "nan" and a second sign; a number begins with a digit or a point and a
+  // digit.
+  const bool begins =
+      !text.empty() && (IsDigit(text[0]) || (text[0] == '.' && text.size() > 1 && IsDigit(text[1])));
   if (!begins) return 0.0;
   double value = 0.0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::general);
+  const auto [end, error] =
+      std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::general);
   if (error == std::errc::result_out_of_range) {
     // Too large or too small for a double: the exponent's sign tells which.
     const std::string_view number(text.data(), static_cast<std::size_t>(end - text.data()));
-    const bool tiny = number.find("e-") != std::string_view::npos || number.find("E-") != std::string_view::npos ||
-                      number[0] == '.' || number.substr(0, 2) == "0.";
+    const bool tiny = number.find("e-") != std::string_view::npos ||
+                      number.find("E-") != std::string_view::npos || number[0] == '.' ||
+                      number.substr(0, 2) == "0.";
     value = tiny ? 0.0 : std::numeric_limits<double>::max();
   }
   return negative ? -value : value;

@@ -1,6 +1,7 @@
 // Texts and numbers: every value of a case lives as text and is converted here at each use.
 //
-// Nothing here depends on the locale. Trimming means blanks only; letters are those of ASCII, other bytes stay.
+// Nothing here depends on the locale. Trimming means blanks only; letters are those of ASCII, other bytes
+// stay.
 #pragma once
 
 #include <cstdint>
@@ -18,9 +19,9 @@ bool HoldsUpper(std::string_view text, std::string_view upper_key);
 // Position of a key in the lower- or upper-case form of a text, npos when it is not there.
 std::size_t FindUpper(std::string_view text, std::string_view upper_key, std::size_t from = 0);
 
-// The number at the start of a text: leading blanks are skipped, reading stops at the first character that cannot
-// continue the number, a text without a leading number gives 0. Never fails: a number beyond the range of a double
-// gives the largest one. "nan", "inf" and hexadecimal forms are no numbers; "1d5" is 1.
+// The number at the start of a text: leading blanks are skipped, reading stops at the first character that
+// cannot continue the number, a text without a leading number gives 0. Never fails: a number beyond the range
+// of a double gives the largest one. "nan", "inf" and hexadecimal forms are no numbers; "1d5" is 1.
 double Val(std::string_view text);
 
 // The named narrowings to a 16-bit integer; both raise 6 "Overflow" outside -32768..32767.
@@ -35,8 +36,8 @@ std::string NumberText(int value);
 std::string CatchText(double value);
 
 // A walk over the blank-separated words of one text. Only the blank separates; a tab does not.
-// TokenPos is where the next word is looked for, counted from 1; 0 when the text is used up. It is wider than the
-// other words of the state, so that a line beyond 32767 characters is walked to its end like any other.
+// TokenPos is where the next word is looked for, counted from 1; 0 when the text is used up. It is wider than
+// the other words of the state, so that a line beyond 32767 characters is walked to its end like any other.
 extern std::int32_t TokenPos;
 // The views returned hold as long as the text given does.
 std::string_view TokenFirst(std::string_view text);  // the first word, "" when there is none

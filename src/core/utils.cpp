@@ -23,19 +23,23 @@ std::string_view ReadDataLine() {
     return {};
   }
   std::string& rest = LineBuf.rest;
-  std::size_t end = 0;
-  for (; end < rest.size() && rest[end] != '\n'; ++end) {
-    if (rest[end] == '\t' || rest[end] == '"') rest[end] = ' ';
-  }
-  head.assign(rest, 0, end);
-  if (end < rest.size()) {
-    LineBuf.pending = kTrue;
-    rest.erase(0, end + 1);
-  } else {
+  const std::size_t line_feed = rest.find('\n');
+  if (line_feed == std::string::npos) {
+    head.swap(rest);
+    rest.clear();
     LineBuf.pending = kFalse;
+  } else {
+    head.assign(rest, 0, line_feed);
+    rest.erase(0, line_feed + 1);
+    LineBuf.pending = kTrue;
+  }
+  for (const char separator : {'\t', '"'}) {
+    for (std::size_t at = head.find(separator); at != std::string::npos; at = head.find(separator, at))
+      head[at] = ' ';
   }
   const std::size_t comment = Trim(head).find('#');
-  return comment == std::string_view::npos ? std::string_view(head) : std::string_view(head).substr(0, comment);
+  return comment == std::string_view::npos ? std::string_view(head)
+                                           : std::string_view(head).substr(0, comment);
 }
 
 std::string DirOfPath(std::string_view path) {
@@ -51,7 +55,9 @@ std::string WithEnding(std::string_view path, std::string_view ending) {
 }
 
 std::string LogPathOf(std::string_view control_path) {
-  return std::string(control_path.substr(0, control_path.size() - std::min<std::size_t>(3, control_path.size()))) + "log";
+  return std::string(
+             control_path.substr(0, control_path.size() - std::min<std::size_t>(3, control_path.size()))) +
+         "log";
 }
 
 std::string DefaultRootName() {

@@ -19,16 +19,17 @@ struct LineBuffer {
 };
 extern LineBuffer LineBuf;
 
-// The next logical line of File1 with its comment removed: lines that begin with "#" are skipped, tabs and double
-// quotes become blanks. A blank line gives "", and so does every line behind the end of the file: a reader sees a
-// cut file as one of zeros. Never raises. The position of a comment behind values is counted on the trimmed text
-// and applied to the untrimmed one: leading blanks cost as many characters at the end, and the formats rely on it.
-// The view holds until the next call.
+// The next logical line of File1 with its comment removed: lines that begin with "#" are skipped, tabs and
+// double quotes become blanks. A blank line gives "", and so does every line behind the end of the file: a
+// reader sees a cut file as one of zeros. Never raises. The position of a comment behind values is counted on
+// the trimmed text and applied to the untrimmed one: leading blanks cost as many characters at the end, and
+// the formats rely on it. The view holds until the next call.
 std::string_view ReadDataLine();
 
 // The path up to and with its last separator, "" when it has none.
 std::string DirOfPath(std::string_view path);
-// A path cut behind its last dot, followed by the ending ("rep"); a path without a dot gives the ending alone.
+// A path cut behind its last dot, followed by the ending ("rep"); a path without a dot gives the ending
+// alone.
 std::string WithEnding(std::string_view path, std::string_view ending);
 // A path without its last three characters, followed by "log".
 std::string LogPathOf(std::string_view control_path);

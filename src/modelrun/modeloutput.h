@@ -9,12 +9,12 @@ namespace tarnvik {
 inline constexpr int kModelOutputCount = 30;
 extern std::string ModelOutputNames[kModelOutputCount];
 
-// Removes the output of an earlier run: in the control file's folder, under the case's names, and its log. Reads
-// frmInput.lblCTL and CtlFilePath. An error ends it silently; the files not reached stay.
+// Removes the output of an earlier run: in the control file's folder, under the case's names, and its log.
+// Reads frmInput.lblCTL and CtlFilePath. An error ends it silently; the files not reached stay.
 void DeleteModelOutput();
-// Tests for the model's files and copies them to the case's names, the report before the output parameters: a report
-// that is older counts as stale later. Reads frmInput.lblCTL; sets ModelRunOK, ReportPath, StdPath, ParPath,
-// StdFileRead, ParFileRead. Shows what is missing, and any run-time error.
+// Tests for the model's files and copies them to the case's names, the report before the output parameters: a
+// report that is older counts as stale later. Reads frmInput.lblCTL; sets ModelRunOK, ReportPath, StdPath,
+// ParPath, StdFileRead, ParFileRead. Shows what is missing, and any run-time error.
 void CollectModelOutput();
 
 }  // namespace tarnvik

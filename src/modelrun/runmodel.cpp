@@ -22,11 +22,12 @@ constexpr int kMessagePanel = 2;
 const std::string kBreak = kLineBreak;
 
 bool UserWantsToRun() {
-  const Answer answer = ShowMessage("Before Running Tarnvik - " + kBreak + kBreak +
-                                        "Input Data File and Parameters File Will be Rewritten from Input Forms" +
-                                        kBreak + kBreak + "Click OK to Run Tarnvik or Cancel to " + kBreak +
-                                        "Terminate Run Before Overwriting Existing Files",
-                                    Icon::Information, Buttons::OkCancel, Answer::Cancel);
+  const Answer answer =
+      ShowMessage("Before Running Tarnvik - " + kBreak + kBreak +
+                      "Input Data File and Parameters File Will be Rewritten from Input Forms" + kBreak +
+                      kBreak + "Click OK to Run Tarnvik or Cancel to " + kBreak +
+                      "Terminate Run Before Overwriting Existing Files",
+                  Icon::Information, Buttons::OkCancel, Answer::Cancel);
   if (answer == Answer::Ok) return true;
   ShowMessage("Run is Terminated" + kBreak + "Use Save Individual Files on Menu " + kBreak +
                   "to Save Files Under New Names",
@@ -41,7 +42,8 @@ bool InputFilesReady() {
   CtlFilePath = frmInput->lblCTL.Caption();
   DatFilePath = frmInput->lblFile(1).Caption();
   PinFilePath = frmInput->lblFile(0).Caption();
-  if (!FileExists(CtlFilePath) || !FileExists(DatFilePath) || !FileExists(PinFilePath) || FilesSaved == kFalse) {
+  if (!FileExists(CtlFilePath) || !FileExists(DatFilePath) || !FileExists(PinFilePath) ||
+      FilesSaved == kFalse) {
     ShowMessage("Tarnvik Can Not be Executed" + kBreak + "Input Files Unavailable", Icon::Exclamation);
     return false;
   }
@@ -56,7 +58,8 @@ bool InputFilesReady() {
 
 // The model works where the control file lies; a bare name hands the question on to the next file.
 std::string WorkingFolder() {
-  for (const std::string& path : {CtlFilePath, frmInput->lblFile(0).Caption(), frmInput->lblFile(1).Caption()}) {
+  for (const std::string& path :
+       {CtlFilePath, frmInput->lblFile(0).Caption(), frmInput->lblFile(1).Caption()}) {
     const std::string folder = DirOfPath(path);
     if (!folder.empty()) return folder;
   }
@@ -65,8 +68,8 @@ std::string WorkingFolder() {
 
 // No quotes anywhere: that is why paths with blanks are refused before.
 std::string ModelCommand() {
-  return "CMD.EXE /C " + TheHost().ProgramFolder() + kPathSeparator + "tarnvik.exe -ainp " + PinFilePath + " -ind " +
-         DatFilePath + " 2> " + LogPathOf(CtlFilePath);
+  return "CMD.EXE /C " + TheHost().ProgramFolder() + kPathSeparator + "tarnvik.exe -ainp " + PinFilePath +
+         " -ind " + DatFilePath + " 2> " + LogPathOf(CtlFilePath);
 }
 
 void EndRunDisplay() {

@@ -17,7 +17,8 @@ void Chart::ClearData(int /*what*/) {
 }
 
 void Chart::OpenData(int kind, int series, int points) {
-  if ((kind != kYValues && kind != kXValues) || series < 1 || points < 1) throw RunTimeError(kErrInvalidProperty);
+  if ((kind != kYValues && kind != kXValues) || series < 1 || points < 1)
+    throw RunTimeError(kErrInvalidProperty);
   series_.resize(static_cast<std::size_t>(series));
   for (ChartSeries& one : series_) {
     (kind == kXValues ? one.X : one.Y).assign(static_cast<std::size_t>(points), 0.0);

@@ -30,7 +30,8 @@ struct ChartSeries {
 
 class Chart : public Control {
  public:
-  Chart(Form* owner, std::string name, int index = -1) : Control(owner, ControlKind::Chart, std::move(name), index) {}
+  Chart(Form* owner, std::string name, int index = -1)
+      : Control(owner, ControlKind::Chart, std::move(name), index) {}
 
   // Removes all data; the settings of axes and titles stay until they are set anew.
   void ClearData(int what = kClearAllData);

@@ -33,8 +33,20 @@ inline constexpr Color kButtonFace{-2};
 std::string ColorText(Color color);
 
 enum class ControlKind {
-  Label, CommandButton, Frame, TextBox, CheckBox, OptionButton, ComboBox, ListBox, TabStrip, Grid, Chart,
-  RichText, MenuItem, StatusBar
+  Label,
+  CommandButton,
+  Frame,
+  TextBox,
+  CheckBox,
+  OptionButton,
+  ComboBox,
+  ListBox,
+  TabStrip,
+  Grid,
+  Chart,
+  RichText,
+  MenuItem,
+  StatusBar
 };
 
 // A handler gets the index of the control in its array, 0 for a control that stands alone.
@@ -117,18 +129,20 @@ class ControlArray {
       const auto at = static_cast<std::size_t>(index);
       if (items_.size() <= at) items_.resize(at + 1);
       items_[at] = std::make_unique<T>(owner, name, index);
-      if constexpr (requires(T& t) { t.SetGroup(this); }) items_[at]->SetGroup(this);
+      if constexpr (requires(T & t) { t.SetGroup(this); }) items_[at]->SetGroup(this);
     }
   }
   // Raises run-time error 340 for an index that the array does not have.
   T& operator()(int index) const {
     if (!Has(index)) {
-      throw RunTimeError(kErrNoControlElement, "Control array element '" + std::to_string(index) + "' doesn't exist");
+      throw RunTimeError(kErrNoControlElement,
+                         "Control array element '" + std::to_string(index) + "' doesn't exist");
     }
     return *items_[static_cast<std::size_t>(index)];
   }
   bool Has(int index) const {
-    return index >= 0 && static_cast<std::size_t>(index) < items_.size() && items_[static_cast<std::size_t>(index)];
+    return index >= 0 && static_cast<std::size_t>(index) < items_.size() &&
+           items_[static_cast<std::size_t>(index)];
   }
   // Calls f for each element in ascending order of the index.
   template <class F>
@@ -148,7 +162,8 @@ class ControlArray {
 
 class Label : public Control {
  public:
-  Label(Form* owner, std::string name, int index = -1) : Control(owner, ControlKind::Label, std::move(name), index) {
+  Label(Form* owner, std::string name, int index = -1)
+      : Control(owner, ControlKind::Label, std::move(name), index) {
     SetBackColor(kButtonFace);
   }
 };
@@ -163,7 +178,8 @@ class CommandButton : public Control {
 
 class Frame : public Control {
  public:
-  Frame(Form* owner, std::string name, int index = -1) : Control(owner, ControlKind::Frame, std::move(name), index) {
+  Frame(Form* owner, std::string name, int index = -1)
+      : Control(owner, ControlKind::Frame, std::move(name), index) {
     SetBackColor(kButtonFace);
   }
 };
@@ -282,7 +298,8 @@ class MenuItem : public Control {
 class StatusBar : public Control {
  public:
   StatusBar(Form* owner, std::string name, int panels)
-      : Control(owner, ControlKind::StatusBar, std::move(name), -1), panels_(static_cast<std::size_t>(panels)) {}
+      : Control(owner, ControlKind::StatusBar, std::move(name), -1),
+        panels_(static_cast<std::size_t>(panels)) {}
   int Panels() const { return static_cast<int>(panels_.size()); }
   const std::string& Panel(int panel) const;
   void SetPanel(int panel, std::string_view text);

@@ -1,5 +1,6 @@
 #include "platform/files.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <filesystem>
 #include <system_error>
@@ -11,16 +12,18 @@ namespace tarnvik {
 
 namespace {
 
-constexpr std::size_t kFlushBytes = std::size_t{1} << 20;
-
 int ErrorOfErrno(int code, int otherwise) {
   switch (code) {
-    case ENOENT: return kErrPathNotFound;
+    case ENOENT:
+      return kErrPathNotFound;
     case EACCES:
     case EPERM:
-    case EROFS: return kErrPathAccess;
-    case ENOSPC: return kErrDiskFull;
-    default: return otherwise;
+    case EROFS:
+      return kErrPathAccess;
+    case ENOSPC:
+      return kErrDiskFull;
+    default:
+      return otherwise;
   }
 }
 
@@ -49,32 +52,38 @@ void InputFile::Open(const std::string& path) {
     Close();
     throw RunTimeError(kErrPathAccess);
   }
+  next_cr_ = std::min(text_.find('\r'), text_.size());
+  next_lf_ = std::min(text_.find('\n'), text_.size());
   open_ = true;
 }
 
 void InputFile::Close() {
   open_ = false;
   at_ = 0;
+  next_cr_ = next_lf_ = 0;
   text_ = std::string();
 }
 
 std::string_view InputFile::ReadLine() {
   if (!open_) throw RunTimeError(kErrBadFileName);
   if (AtEnd()) throw RunTimeError(kErrPastEnd);
-  const std::string_view rest = std::string_view(text_).substr(at_);
-  const std::size_t end = rest.find_first_of("\r\n");
-  if (end == std::string_view::npos) {
-    at_ = text_.size();
-    return rest;
-  }
-  const bool pair = rest[end] == '\r' && end + 1 < rest.size() && rest[end + 1] == '\n';
-  at_ += end + (pair ? 2 : 1);
-  return rest.substr(0, end);
+  const auto next = [this](char end, std::size_t& known) {
+    if (known < at_) known = std::min(text_.find(end, at_), text_.size());
+  };
+  next('\r', next_cr_);
+  next('\n', next_lf_);
+  const std::string_view text = text_;
+  const std::size_t end = std::min(next_cr_, next_lf_);
+  const std::string_view line = text.substr(at_, end - at_);
+  const bool pair = end == next_cr_ && next_lf_ == end + 1;
+  // Beyond the text where the last line has no end of its own.
+  at_ = end + (pair ? 2 : 1);
+  return line;
 }
 
 OutputFile::~OutputFile() {
   if (!file_) return;
-  std::fwrite(buffer_.data(), 1, buffer_.size(), file_);
+  std::fwrite(buffer_, 1, used_, file_);
   std::fclose(file_);
 }
 
@@ -83,22 +92,28 @@ void OutputFile::Open(const std::string& path) {
   errno = 0;
   file_ = path.empty() ? nullptr : std::fopen(path.c_str(), "wb");
   if (!file_) throw RunTimeError(ErrorOfErrno(errno, kErrPathAccess));
-  buffer_.clear();
+  std::setvbuf(file_, nullptr, _IONBF, 0);  // the buffer is here
+  used_ = 0;
 }
 
-void OutputFile::EndLine() {
-  buffer_ += "\r\n";
-  if (buffer_.size() >= kFlushBytes) Flush();
+void OutputFile::PrintLong(std::string_view text) {
+  Flush();
+  if (text.size() > kBufferBytes) return WriteOut(text);
+  Print(text);
+}
+
+void OutputFile::WriteOut(std::string_view text) {
+  if (!file_) throw RunTimeError(kErrBadFileName);
+  errno = 0;
+  if (std::fwrite(text.data(), 1, text.size(), file_) != text.size()) {
+    throw RunTimeError(ErrorOfErrno(errno, kErrDeviceIo));
+  }
 }
 
 void OutputFile::Flush() {
-  if (!file_) throw RunTimeError(kErrBadFileName);
-  errno = 0;
-  const std::size_t written = std::fwrite(buffer_.data(), 1, buffer_.size(), file_);
-  const bool whole = written == buffer_.size() && std::fflush(file_) == 0;
-  const int code = errno;
-  buffer_.clear();
-  if (!whole) throw RunTimeError(ErrorOfErrno(code, kErrDeviceIo));
+  const std::string_view text(buffer_, used_);
+  used_ = 0;
+  WriteOut(text);
 }
 
 void OutputFile::Close() {

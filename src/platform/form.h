@@ -1,8 +1,8 @@
 // Forms and their lifecycle.
 //
 // A form is a struct of named controls. Its only instance is an object of the form's name, reached by ->.
-// The first touch loads it: the record is built with its design values, then its Form_Load runs. Unloading runs
-// the query and unload handlers and destroys the record, which is what resets its fields.
+// The first touch loads it: the record is built with its design values, then its Form_Load runs. Unloading
+// runs the query and unload handlers and destroys the record, which is what resets its fields.
 #pragma once
 
 #include <memory>
@@ -66,7 +66,7 @@ class FormSlot {
   // Asking does not load.
   bool Loaded() const { return record_ != nullptr; }
   Form* Record() const { return record_.get(); }
-  Form& Touch();  // loads the form when it is not loaded
+  Form& Touch();                                 // loads the form when it is not loaded
   bool Unloading() const { return unloading_; }  // its unload handler is running
 
  protected:
@@ -98,10 +98,10 @@ const std::vector<FormSlot*>& AllForms();
 const std::vector<FormSlot*>& LoadedForms();
 FormSlot* FindForm(std::string_view name);
 
-// Unloads a form: its query handler, which may cancel, its unload handler, then the record goes. Of a form that is
-// not loaded nothing happens, nor of one whose unload handler is running: forms that go together unload one another.
-// False when the query handler cancelled. A record that is unloaded during an event stays in memory until the
-// outermost event has ended, since a handler of its own may be running.
+// Unloads a form: its query handler, which may cancel, its unload handler, then the record goes. Of a form
+// that is not loaded nothing happens, nor of one whose unload handler is running: forms that go together
+// unload one another. False when the query handler cancelled. A record that is unloaded during an event stays
+// in memory until the outermost event has ended, since a handler of its own may be running.
 bool UnloadForm(FormSlot& slot, UnloadMode mode = UnloadMode::ByCode);
 
 // The two halves of the above, for the main window: it asks every child before it unloads the first.
@@ -110,7 +110,8 @@ void UnloadWithoutAsking(FormSlot& slot);
 
 // Shows a form, loading it if need be, brings it to the front and runs its Activate handler.
 void ActivateForm(FormSlot& slot);
-// Brings a form to the front, showing it if need be; its Activate handler runs when another form was in front.
+// Brings a form to the front, showing it if need be; its Activate handler runs when another form was in
+// front.
 void BringFormToFront(FormSlot& slot);
 // Shows a form modally: returns when it has been unloaded.
 void ShowFormModal(FormSlot& slot);

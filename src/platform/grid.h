@@ -16,14 +16,16 @@ namespace tarnvik {
 // 60 ages, 50 surveys) needs 1.3 million cells in its largest table.
 inline constexpr long long kMaxTableCells = 3'000'000;
 
-// Raises run-time error 7 when a table of that many cells is beyond the bound; the factors may be any numbers.
+// Raises run-time error 7 when a table of that many cells is beyond the bound; the factors may be any
+// numbers.
 void CheckTableSize(long long a, long long b, long long c = 1);
 
 // Rows and columns count from 0; row 0 is the header row. Every cell is a text. A row or column outside the
 // table raises run-time error 9 "Subscript out of range".
 class Grid : public Control {
  public:
-  Grid(Form* owner, std::string name, int index = -1) : Control(owner, ControlKind::Grid, std::move(name), index) {}
+  Grid(Form* owner, std::string name, int index = -1)
+      : Control(owner, ControlKind::Grid, std::move(name), index) {}
 
   int Rows() const { return rows_; }
   int Cols() const { return cols_; }
@@ -67,7 +69,8 @@ class Grid : public Control {
   // Whether the user may type into cells, and whether one cell accepts typing.
   bool Editable = false;
   bool CellEditable(int row, int col) const {
-    return Editable && row >= FixedRows && col >= FixedCols && col != ReadOnlyCol && row < rows_ && col < cols_;
+    return Editable && row >= FixedRows && col >= FixedCols && col != ReadOnlyCol && row < rows_ &&
+           col < cols_;
   }
 
   // Raised by the front ends only.

@@ -1,5 +1,5 @@
-// Host services: what the logic asks of the program that it runs in. Implemented by the console, by the desktop
-// and by the tests.
+// Host services: what the logic asks of the program that it runs in. Implemented by the console, by the
+// desktop and by the tests.
 #pragma once
 
 #include <cstdint>
@@ -22,8 +22,8 @@ enum class Answer : int { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
 struct FileDialog {
   bool save = false;
   std::string title;
-  std::string filter;             // "Control Files (*.ctl)|*.ctl"
-  std::string default_extension;  // without dot; "" for none
+  std::string filter;                // "Control Files (*.ctl)|*.ctl"
+  std::string default_extension;     // without dot; "" for none
   bool moves_current_folder = true;  // choosing a file makes its folder the current one
 };
 
@@ -41,9 +41,9 @@ class Host {
   // The chosen path, as the user gave it; nothing when the dialog was cancelled.
   virtual std::optional<std::string> ShowFileDialog(const FileDialog& dialog) = 0;
   virtual void BringToFront(Form& form) = 0;
-  virtual void ShowModal(FormSlot& slot) = 0;   // returns when the form is no longer loaded
-  virtual void FormUnloaded(Form& form) = 0;    // its window goes; the record still exists
-  virtual void PopUpMenu(Control& menu) = 0;    // a menu entry whose children are offered at the pointer
+  virtual void ShowModal(FormSlot& slot) = 0;  // returns when the form is no longer loaded
+  virtual void FormUnloaded(Form& form) = 0;   // its window goes; the record still exists
+  virtual void PopUpMenu(Control& menu) = 0;   // a menu entry whose children are offered at the pointer
   virtual void ProcessEvents() = 0;
   virtual void SetPointer(Pointer pointer) = 0;
   virtual void SetClipboard(std::string text) = 0;

@@ -50,7 +50,7 @@ class ListBox : public ListControl {
   void Clear();
   void AddItem(std::string_view text, bool selected = false);
   void RemoveItem(int item);
-  bool Selected(int item) const;  // raises 380 outside the list
+  bool Selected(int item) const;              // raises 380 outside the list
   void SetSelected(int item, bool selected);  // by code: runs the click handler like a click
   void UserMark(int item, bool selected);     // by the user: makes the entry the current one too
   bool AnySelected() const;

@@ -12,7 +12,8 @@ inline constexpr char kPathSeparator = '\\';
 inline constexpr char kPathSeparator = '/';
 #endif
 
-// Position of the last separator of a path, npos when there is none: `\` everywhere, `/` on hosts that use it.
+// Position of the last separator of a path, npos when there is none: `\` everywhere, `/` on hosts that use
+// it.
 std::size_t LastSeparator(std::string_view path);
 // Whether a path begins at a root of the file system.
 bool IsAbsolutePath(std::string_view path);

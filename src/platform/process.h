@@ -11,10 +11,10 @@ namespace tarnvik {
 // What receives the standard output of a program while it runs, piece by piece.
 using OutputSink = void (*)(std::string_view piece);
 
-// Runs a command line as a console process and waits for its end. On Windows the line goes to the system as it is.
-// Elsewhere it is taken apart here, and no shell sees it: blank-separated words, a leading "CMD.EXE /C ", and
-// "2> file" for the error stream. With "CMD.EXE /C " in front the start always succeeds, as the interpreter's would:
-// a program that is missing or cannot run leaves a line saying so in the error file.
+// Runs a command line as a console process and waits for its end. On Windows the line goes to the system as
+// it is. Elsewhere it is taken apart here, and no shell sees it: blank-separated words, a leading "CMD.EXE /C
+// ", and "2> file" for the error stream. With "CMD.EXE /C " in front the start always succeeds, as the
+// interpreter's would: a program that is missing or cannot run leaves a line saying so in the error file.
 // Returns 0 when the process could not be created, else 1.
 std::int32_t RunConsoleProcess(const std::string& command, OutputSink sink);
 
@@ -30,7 +30,7 @@ std::string ExecutableFolder();
 // A command line taken apart, for hosts without a command interpreter of their own.
 struct CommandLine {
   std::vector<std::string> words;
-  std::string error_file;  // "" when the error stream is not sent to a file
+  std::string error_file;    // "" when the error stream is not sent to a file
   bool interpreted = false;  // began with "CMD.EXE /C "
 };
 CommandLine TakeApart(std::string_view command);

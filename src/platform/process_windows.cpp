@@ -2,8 +2,8 @@
 #ifdef _WIN32
 
 #define WIN32_LEAN_AND_MEAN
-#include <windows.h>
 #include <shellapi.h>
+#include <windows.h>
 
 #include "platform/paths.h"
 #include "platform/process.h"
@@ -24,8 +24,8 @@ std::int32_t RunConsoleProcess(const std::string& command, OutputSink sink) {
   start.hStdError = GetStdHandle(STD_ERROR_HANDLE);
   PROCESS_INFORMATION process{};
   std::string line = command;
-  const BOOL created =
-      CreateProcessA(nullptr, line.data(), nullptr, nullptr, TRUE, CREATE_NO_WINDOW, nullptr, nullptr, &start, &process);
+  const BOOL created = CreateProcessA(nullptr, line.data(), nullptr, nullptr, TRUE, CREATE_NO_WINDOW, nullptr,
+                                      nullptr, &start, &process);
   CloseHandle(out_write);
   if (created) {
     char piece[4096];

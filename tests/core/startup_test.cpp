@@ -53,8 +53,8 @@ TEST_F(Startup, settings_are_read_and_written_back) {
   EXPECT_EQ(frmInput->cmbNFYear.ListCount(), 51);
   // The maximum year is written as 0 while it follows the calendar, whatever was read.
   frmMain->mnuOptionsExitPromptEnable.UserClick();
-  EXPECT_EQ(ReadBytes("TARNVIK.CFG"), head + "1950 0\r\nAges: 20\r\nSurveys: 5\r\n[File Viewer]\r\n" + viewer +
-                                          "\r\n[Save on Exit]\r\nT\r\n");
+  EXPECT_EQ(ReadBytes("TARNVIK.CFG"), head + "1950 0\r\nAges: 20\r\nSurveys: 5\r\n[File Viewer]\r\n" +
+                                          viewer + "\r\n[Save on Exit]\r\nT\r\n");
   std::filesystem::remove(viewer);
   host.now.year = 2031;
   Restart();
@@ -65,9 +65,10 @@ TEST_F(Startup, settings_are_read_and_written_back) {
 }
 
 TEST_F(Startup, a_damaged_settings_file_does_not_stop_the_program) {
-  for (const char* bytes : {"", "[General Parameter Ranges]", "[General Parameter Ranges]\nYears: 99999 5\n",
-                            "[General Parameter Ranges]\nYears: -5 -9\nAges: 0\nSurveys: -1\n", "[File Viewer]",
-                            "\x01\x02\xff\xfe[", "[General Parameter Ranges]\nYears: 3000 0\nAges: 5\nSurveys: 2"}) {
+  for (const char* bytes :
+       {"", "[General Parameter Ranges]", "[General Parameter Ranges]\nYears: 99999 5\n",
+        "[General Parameter Ranges]\nYears: -5 -9\nAges: 0\nSurveys: -1\n", "[File Viewer]",
+        "\x01\x02\xff\xfe[", "[General Parameter Ranges]\nYears: 3000 0\nAges: 5\nSurveys: 2"}) {
     WriteBytes("TARNVIK.CFG", bytes);
     Restart();
     EXPECT_TRUE(ProgramRunning());
@@ -106,11 +107,12 @@ TEST_F(Closing, cancel_keeps_the_form_and_no_lets_it_go) {
   EXPECT_EQ(PinFileOpen, 0);
   EXPECT_EQ(frmInput->lblFile(0).Caption(), "None Selected");
   EXPECT_EQ(frmInput->lblFile(0).ForeColor(), kRed);
-  EXPECT_EQ(host.TakeTexts(),
-            (std::vector<std::string>{
-                "Save Input Files Now?||Any Windows With Plots Will Be Closed.|To Cancel Action, Click Cancel.",
-                "Save Parameter Input File Now?||Any Windows With Plots Will Be Closed.|To Cancel Action, Click "
-                "Cancel."}));
+  EXPECT_EQ(
+      host.TakeTexts(),
+      (std::vector<std::string>{
+          "Save Input Files Now?||Any Windows With Plots Will Be Closed.|To Cancel Action, Click Cancel.",
+          "Save Parameter Input File Now?||Any Windows With Plots Will Be Closed.|To Cancel Action, Click "
+          "Cancel."}));
 }
 
 TEST_F(Closing, yes_with_invalid_data_keeps_the_form_and_writes_nothing) {
@@ -153,10 +155,11 @@ TEST_F(Startup, create_entirely_new_case_asks_only_when_a_file_is_open) {
   OutputFormsOpen = kTrue;
   host.answers = {Answer::Cancel};
   frmMain->mnuFileCreateAll.UserClick();
-  EXPECT_EQ(host.TakeTexts(), (std::vector<std::string>{
-                                  "Save All Input Files Now?",
-                                  "Save All Input Files Now?||Any Windows With Plots Will Be Closed.|To Cancel Action, "
-                                  "Click Cancel."}));
+  EXPECT_EQ(host.TakeTexts(),
+            (std::vector<std::string>{
+                "Save All Input Files Now?",
+                "Save All Input Files Now?||Any Windows With Plots Will Be Closed.|To Cancel Action, "
+                "Click Cancel."}));
   OutputFormsOpen = kFalse;
 }
 

@@ -34,7 +34,8 @@ TEST_F(Utils, data_lines_lose_their_comments) {
       {"1", {"1", "", "", ""}},
       {"# nothing but comments\n# c", {"", ""}},
   };
-  for (const auto& row : rows) EXPECT_EQ(LogicalLines(row.bytes, static_cast<int>(row.lines.size())), row.lines);
+  for (const auto& row : rows)
+    EXPECT_EQ(LogicalLines(row.bytes, static_cast<int>(row.lines.size())), row.lines);
 }
 
 TEST_F(Utils, names_are_derived_from_paths_and_the_clock) {

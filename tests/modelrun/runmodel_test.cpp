@@ -43,7 +43,8 @@ struct RunModelTest : ProgramTest {
     };
   }
   static constexpr const char* kQuestion =
-      "Before Running Tarnvik - ||Input Data File and Parameters File Will be Rewritten from Input Forms||Click OK to "
+      "Before Running Tarnvik - ||Input Data File and Parameters File Will be Rewritten from Input "
+      "Forms||Click OK to "
       "Run Tarnvik or Cancel to |Terminate Run Before Overwriting Existing Files";
 };
 
@@ -53,8 +54,8 @@ TEST_F(RunModelTest, the_real_model_fits_the_example_and_its_results_are_scanned
   EXPECT_EQ(host.TakeTexts(), (std::vector<std::string>{kQuestion, "Input Files Have Been Saved",
                                                         "Tarnvik - Model Run Completed"}));
   EXPECT_EQ(host.commands, (std::vector<std::string>{"CMD.EXE /C " + InFolder("tarnvik.exe") + " -ainp " +
-                                                     InFolder("cod.pin") + " -ind " + InFolder("cod.dat") + " 2> " +
-                                                     InFolder("cod.log")}));
+                                                     InFolder("cod.pin") + " -ind " + InFolder("cod.dat") +
+                                                     " 2> " + InFolder("cod.log")}));
   EXPECT_EQ(ModelRunOK, -1);
   EXPECT_EQ(StdFileRead, -1);
   EXPECT_EQ(OutputFormsOpen, -1);
@@ -83,9 +84,10 @@ TEST_F(RunModelTest, cancel_changes_nothing) {
   WriteBytes("TARNVIK.REP", "old");
   host.answers = {Answer::Cancel};
   RunModel();
-  EXPECT_EQ(host.TakeTexts(),
-            (std::vector<std::string>{
-                kQuestion, "Run is Terminated|Use Save Individual Files on Menu |to Save Files Under New Names"}));
+  EXPECT_EQ(
+      host.TakeTexts(),
+      (std::vector<std::string>{
+          kQuestion, "Run is Terminated|Use Save Individual Files on Menu |to Save Files Under New Names"}));
   EXPECT_EQ(ReadBytes("cod.dat"), before);
   EXPECT_TRUE(FileExists("TARNVIK.REP"));
   EXPECT_TRUE(host.commands.empty());
@@ -95,22 +97,25 @@ TEST_F(RunModelTest, a_blank_in_the_control_files_path_is_refused_before_anythin
   WriteBytes("TARNVIK.REP", "old");
   ShowPath(frmInput->lblCTL, InFolder("north sea.ctl"));
   Run();
-  EXPECT_EQ(host.TakeTexts().back(),
-            "Input Files May Not be in a Directory That Contains Embedded Spaces|User Must Save Input Files in a "
-            "Different Directory Before Running Model");
+  EXPECT_EQ(
+      host.TakeTexts().back(),
+      "Input Files May Not be in a Directory That Contains Embedded Spaces|User Must Save Input Files in a "
+      "Different Directory Before Running Model");
   EXPECT_TRUE(FileExists("TARNVIK.REP"));
   EXPECT_EQ(PathHasNoSpaces("  a.ctl "), "True");
 }
 
 TEST_F(RunModelTest, old_output_is_gone_before_the_model_starts) {
-  for (const char* name : {"TARNVIK.REP", "ADMODEL.HES", "VARIANCE", "cod.rep", "cod.std", "cod.par", "cod.log"}) {
+  for (const char* name :
+       {"TARNVIK.REP", "ADMODEL.HES", "VARIANCE", "cod.rep", "cod.std", "cod.par", "cod.log"}) {
     WriteBytes(name, "old");
   }
   WriteBytes("other.rep", "not ours");
   ModelLeaves({});
   Run();
   EXPECT_EQ(host.TakeTexts().back(), "Error Running Basic Estimation Model|Report File is Unavailable");
-  for (const char* name : {"TARNVIK.REP", "ADMODEL.HES", "VARIANCE", "cod.rep", "cod.std", "cod.par", "cod.log"}) {
+  for (const char* name :
+       {"TARNVIK.REP", "ADMODEL.HES", "VARIANCE", "cod.rep", "cod.std", "cod.par", "cod.log"}) {
     EXPECT_FALSE(FileExists(name)) << name;
   }
   EXPECT_TRUE(FileExists("other.rep"));
@@ -123,7 +128,9 @@ TEST_F(RunModelTest, what_the_model_leaves_decides_the_end) {
     const char* message;
     int run_ok;
   } rows[] = {
-      {{"TARNVIK.REP", "TARNVIK.STD"}, "Error Running Basic Estimation Model|Output Parameter File is Unavailable", 0},
+      {{"TARNVIK.REP", "TARNVIK.STD"},
+       "Error Running Basic Estimation Model|Output Parameter File is Unavailable",
+       0},
       {{"TARNVIK.STD", "TARNVIK.PAR"}, "Error Running Basic Estimation Model|Report File is Unavailable", 0},
       {{"TARNVIK.REP", "TARNVIK.PAR"}, "Output Files Not Current.|Please Run Model Before Proceeding.", -1},
   };

@@ -26,7 +26,9 @@ struct SmallForm : Form {
     });
   }
   void Load() override { ++loads; }
-  void QueryUnload(bool& cancel, UnloadMode mode) override { cancel = refuse_unload && mode == UnloadMode::ByUser; }
+  void QueryUnload(bool& cancel, UnloadMode mode) override {
+    cancel = refuse_unload && mode == UnloadMode::ByUser;
+  }
   void Unload() override { ++unloads; }
   bool CodeClicksRest() const override { return resting; }
   ComboBox combo{this, "combo"};

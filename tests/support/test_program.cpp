@@ -17,10 +17,14 @@ namespace {
 
 bool Offers(Buttons buttons, Answer answer) {
   switch (buttons) {
-    case Buttons::Ok: return answer == Answer::Ok;
-    case Buttons::OkCancel: return answer == Answer::Ok || answer == Answer::Cancel;
-    case Buttons::YesNo: return answer == Answer::Yes || answer == Answer::No;
-    case Buttons::YesNoCancel: return answer != Answer::Ok;
+    case Buttons::Ok:
+      return answer == Answer::Ok;
+    case Buttons::OkCancel:
+      return answer == Answer::Ok || answer == Answer::Cancel;
+    case Buttons::YesNo:
+      return answer == Answer::Yes || answer == Answer::No;
+    case Buttons::YesNoCancel:
+      return answer != Answer::Ok;
   }
   return false;
 }

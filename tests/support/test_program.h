@@ -1,5 +1,5 @@
-// The program under test: a host that answers boxes and dialogs from queues and keeps what was shown, and a fixture
-// that starts the program in a folder of its own.
+// The program under test: a host that answers boxes and dialogs from queues and keeps what was shown, and a
+// fixture that starts the program in a folder of its own.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -42,9 +42,10 @@ class TestHost : public Host {
 
   // To be set by a test. A box without a queued answer takes its only button, else Cancel, else No.
   std::deque<Answer> answers;
-  std::deque<std::optional<std::string>> files;          // answers of file dialogs; nothing cancels
-  std::deque<std::function<void()>> modal_acts;          // what the user does in the next modal form
-  std::function<std::int32_t(const std::string&)> process;  // the next processes; without it they run for real
+  std::deque<std::optional<std::string>> files;  // answers of file dialogs; nothing cancels
+  std::deque<std::function<void()>> modal_acts;  // what the user does in the next modal form
+  std::function<std::int32_t(const std::string&)>
+      process;  // the next processes; without it they run for real
   DateTime now{2026, 11, 16, 1, 5};
   std::string program_folder;
   // Kept for a test to look at.
@@ -57,7 +58,8 @@ class TestHost : public Host {
   std::vector<std::string> TakeTexts();
 };
 
-// Each test runs in a new folder, which is the current folder and the program's own, and starts the program there.
+// Each test runs in a new folder, which is the current folder and the program's own, and starts the program
+// there.
 class ProgramTest : public testing::Test {
  protected:
   void SetUp() override;
