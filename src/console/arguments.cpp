@@ -1,5 +1,6 @@
 #include "console/arguments.h"
 
+#include <filesystem>
 #include <string_view>
 
 #include "console/words.h"
@@ -30,9 +31,9 @@ std::optional<DateTime> ReadMoment(const std::string& word) {
   return exists ? std::optional(moment) : std::nullopt;
 }
 
-// The current folder moves with the file dialogs, so that a relative path must be made full beforehand.
+// A full path without a final separator. The current folder moves with the file dialogs.
 std::string FullFolder(const std::string& path) {
-  std::string full = IsAbsolutePath(path) ? path : JoinPath(CurrentFolder(), path);
+  std::string full = IsAbsolutePath(path) ? path : std::filesystem::canonical(path).string();
   while (full.size() > 1 && LastSeparator(full) == full.size() - 1) full.pop_back();
   return full;
 }
