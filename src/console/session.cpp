@@ -57,7 +57,7 @@ void Session::Run() {
   host_.tells_windows = true;
   ReadCommands(nullptr);
   host_.tells_windows = false;
-  EndProgram();
+  RunEvent(EndProgram);
 }
 
 }  // namespace tarnvik

@@ -26,7 +26,7 @@ class Program : public ProgramTest {
 
 TEST_F(Program, reads_script_or_standard_input) {
   WriteBytes(InFolder("script"),
-             std::string("# a\r\n\r\nstate GPYearMax\r\nget frmInput.lblCTL\r\nsta\0te\r\nforms", 67));
+             std::string("# a\r\n\r\nstate GPYearMax\r\nget frmInput.lblCTL\r\nsta") + '\0' + "te\r\nforms");
   const std::string answers = "{\"value\":2031}\n{\"value\":\"" + InFolder("TARNVIK0228312359.ctl") +
                               "\"}\n{\"error\":\"no command sta\\u0000te\"}\n";
   EXPECT_EQ(Run("$T --app-dir . --now 2031-02-28T23:59 script"), 0) << Err();

@@ -423,7 +423,7 @@ TEST(JsonText, is_valid_for_all_bytes) {
 TEST_F(Console, texts_of_any_length_and_bytes_are_typed) {
   const std::string text(300000, 'x');
   const Lines answers = Run({"type frmKinds.text(0) " + text, "get frmKinds.text(0)",
-                             std::string("type frmKinds.text(0) \"\\\"\\\\ \0\t\\t\\r\\n\"", 37),
+                             std::string("type frmKinds.text(0) \"\\\"\\\\ ") + '\0' + "\t\\t\\r\\n\"",
                              "get frmKinds.text(0)", "type frmKinds.text(0) a\\\"b\tc",
                              "get frmKinds.text(0)", "type frmKinds.text(0) \"\"", "get frmKinds.text(0)"});
   ASSERT_EQ(answers.size(), 12u);
