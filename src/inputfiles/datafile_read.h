@@ -1,4 +1,4 @@
-// What the parts of the data file's reader share.
+// What the parts of the data file's reader share, and the parameter file's with them.
 #pragma once
 
 #include <string>

@@ -1,4 +1,5 @@
-// What the parts of the data file's writer share. Lists end in their separator: the model reads on behind it.
+// What the parts of the data file's writer share, and the parameter file's with them. Lists end in their
+// separator: the model reads on behind it.
 #pragma once
 
 #include <string_view>
