@@ -83,9 +83,10 @@ TEST_F(NewFiles, new_parameter_file_is_empty_and_stores_its_name_as_the_data_fil
   NewParameterFile();
   EXPECT_EQ(DatFilePath + ' ' + PinFilePath + ' ' + frmInput->lblFile(0).Caption(), "x.pin cod.pin cod.pin");
   EXPECT_EQ(frmPin->txtParmFile(1).Text(), "");
-  const Grid& deviations = frmPin->ORVFlexGrid1(0);
-  EXPECT_EQ(deviations.TextMatrix(57, 0) + deviations.TextMatrix(57, 1), "2014");
-  EXPECT_EQ(frmPin->ORVFlexGrid1(7).TextMatrix(52, 0) + frmPin->ORVFlexGrid1(7).TextMatrix(52, 1), "2014");
+  for (const auto& [grid, row] : {std::pair(0, 57), {1, 52}, {7, 52}}) {
+    const Grid& years = frmPin->ORVFlexGrid1(grid);
+    EXPECT_EQ(years.TextMatrix(row, 0) + years.TextMatrix(row, 1), "2014");
+  }
   WriteDataFile();
   EXPECT_EQ(DatFilePath, "cod.dat");  // writers take their paths from the labels
 }
