@@ -220,7 +220,6 @@ void frmOutputData_Form_Load() {
 
 void frmOutputData_Form_Unload() {
   OutputFormsOpen = kFalse;
-  ForgetActiveGridOf(*frmOutputData);
   UnloadForm(frmOutput);
 }
 
@@ -241,10 +240,6 @@ void ResultGridKeyDown(Grid& grid, int code, bool control) {
 void ResultGridRightClick(Grid& grid) {
   ActiveGrid = &grid;
   TheHost().PopUpMenu(frmMain->mnuEdit);
-}
-
-void ForgetActiveGridOf(const Form& form) {
-  if (ActiveGrid && &ActiveGrid->Owner() == &form) ActiveGrid = nullptr;
 }
 
 }  // namespace tarnvik

@@ -104,7 +104,5 @@ void frmOutputData_Combo2_Click(int);
 // and runs its shortcut; a right click does so and offers copy and select all.
 void ResultGridKeyDown(Grid& grid, int code, bool control);
 void ResultGridRightClick(Grid& grid);
-// To be called when a form of results goes: its grids can no longer be the active one.
-void ForgetActiveGridOf(const Form& form);
 
 }  // namespace tarnvik

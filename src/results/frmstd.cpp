@@ -73,7 +73,6 @@ void frmSTD_Form_Load() { frmSTD->SSTab1.SetTab(0); }
 void frmSTD_Form_Unload() {
   StdFileRead = kFalse;
   ParFileRead = kFalse;
-  ForgetActiveGridOf(*frmSTD);
 }
 
 }  // namespace tarnvik

@@ -1,6 +1,7 @@
 // A case whose results lie in the test's folder: three years, three ages, one survey, one selectivity period.
 #pragma once
 
+#include <algorithm>
 #include <cstdio>
 #include <string>
 #include <vector>
@@ -94,28 +95,38 @@ class ResultsTest : public ProgramTest {
 
   using Texts = std::vector<std::string>;
 
-  // Expected cells are written "table(row,col) text", expected captions "index text".
-  static void ExpectCells(const ControlArray<Grid>& grids, const Texts& cells) {
-    for (const std::string& cell : cells) {
-      int table = 0, row = 0, col = 0, text = 0;
-      ASSERT_EQ(std::sscanf(cell.c_str(), "%d(%d,%d)%n", &table, &row, &col, &text), 3) << cell;
-      EXPECT_EQ(grids(table).TextMatrix(row, col), cell.substr(static_cast<std::size_t>(text) + 1)) << cell;
+  // Expected texts are written "table(row,col) text; table(row,col) text", those of labels "index text; index
+  // text".
+  template <class Compare>
+  static void ForEachExpected(const std::string& list, Compare compare) {
+    for (std::size_t at = 0; at < list.size();) {
+      const std::size_t end = std::min(list.find("; ", at), list.size());
+      const std::string item = list.substr(at, end - at);
+      const std::size_t blank = item.find(' ');
+      ASSERT_NE(blank, std::string::npos) << item;
+      compare(item.substr(0, blank), item.substr(blank + 1));
+      at = end + 2;
     }
   }
-  static void ExpectResults(const Texts& cells) {
+  static void ExpectCells(const ControlArray<Grid>& grids, const std::string& list) {
+    ForEachExpected(list, [&](const std::string& place, const std::string& text) {
+      int table = 0, row = 0, col = 0;
+      ASSERT_EQ(std::sscanf(place.c_str(), "%d(%d,%d)", &table, &row, &col), 3) << place;
+      EXPECT_EQ(grids(table).TextMatrix(row, col), text) << place;
+    });
+  }
+  static void ExpectResults(const std::string& list) {
     ASSERT_TRUE(frmOutputData.Loaded());
-    ExpectCells(frmOutputData->MSFlexGrid, cells);
+    ExpectCells(frmOutputData->MSFlexGrid, list);
   }
-  static void ExpectParameters(const Texts& cells) {
+  static void ExpectParameters(const std::string& list) {
     ASSERT_TRUE(frmSTD.Loaded());
-    ExpectCells(frmSTD->MSFlexGrid, cells);
+    ExpectCells(frmSTD->MSFlexGrid, list);
   }
-  static void ExpectCaptions(const ControlArray<Label>& labels, const Texts& captions) {
-    for (const std::string& caption : captions) {
-      int index = 0, text = 0;
-      ASSERT_EQ(std::sscanf(caption.c_str(), "%d%n", &index, &text), 1) << caption;
-      EXPECT_EQ(labels(index).Caption(), caption.substr(static_cast<std::size_t>(text) + 1)) << caption;
-    }
+  static void ExpectCaptions(const ControlArray<Label>& labels, const std::string& list) {
+    ForEachExpected(list, [&](const std::string& index, const std::string& text) {
+      EXPECT_EQ(labels(std::stoi(index)).Caption(), text) << labels(std::stoi(index)).FullName();
+    });
   }
 
   std::string report, std_file, par_file;

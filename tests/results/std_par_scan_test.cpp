@@ -19,41 +19,23 @@ TEST_F(StdParScan, standard_deviations_fill_both_forms) {
   EXPECT_EQ(Scan(), Texts());
   EXPECT_EQ(StdFileRead, kTrue);
   EXPECT_EQ(ParFileRead, kFalse);
-  ExpectParameters({
-      "0(0,2) Std. Dev.",
-      "0(1,0) 1999",
-      "0(1,1) -1.413741",
-      "0(5,2) 0.2449961",
-      "1(1,0) 2001",
-      "1(2,1) 0.06379154",
-      "1(3,2) 0.2112857",
-      "2(0,1) Sel. Period 1 Value",
-      "2(1,0) Log gamma",
-      "2(1,1) in1",
-      "2(1,2) N/A",
-      "2(2,1) 0.3822052",
-      "2(2,2) 0.4434052",
-      "2(3,1) 0.6655878",
-      "2(4,0) Log Sel. Par. - Age 1",
-      "2(4,1) N/A",
-      "2(5,1) 0.77",
-      "2(5,2) N/A",
-      "3(0,2) Survey 1 Std. Dev.",
-      "3(1,1) 0.194232",
-      "3(1,2) 0.05149525",
-      "3(2,0) Survey exp",
-      "3(2,1) N/A",
-      "3(3,2) N/A",
-      "3(4,1) -3.597238",
-      "3(5,2) 8.009058",
-  });
-  ExpectCaptions(frmSTD->lblEst, {"0 0.2", "1 6.071407", "2 -0.1627367", "3 N/A", "5 643.8653"});
-  ExpectCaptions(frmSTD->lblStd, {"0 N/A", "1 0.2146013", "2 0.3919703", "4 N/A", "5 159.7072"});
-  ExpectResults({"0(5,1) 268.8977", "0(5,3) 109.8273", "0(6,2) 196.8065", "5(1,2) 154.353", "5(2,4) 153.0439",
-                 "5(3,6) 283.1964", "6(5,2) 268.8977", "8(2,2) 125.6079", "9(3,2) 0.4952156",
-                 "10(1,2) 0.7480153", "11(2,2) 0.6496223", "12(3,2) 0.1428914", "13(3,2) 0.2857828"});
+  ExpectParameters(
+      "0(0,2) Std. Dev.; 0(1,0) 1999; 0(1,1) -1.413741; 0(5,2) 0.2449961; 1(1,0) 2001; "
+      "1(2,1) 0.06379154; 1(3,2) 0.2112857; 2(0,1) Sel. Period 1 Value; "
+      "2(1,0) Log gamma; 2(1,1) in1; 2(1,2) N/A; 2(2,1) 0.3822052; 2(2,2) 0.4434052; "
+      "2(3,1) 0.6655878; 2(4,0) Log Sel. Par. - Age 1; 2(4,1) N/A; 2(5,1) 0.77; "
+      "2(5,2) N/A; 3(0,2) Survey 1 Std. Dev.; 3(1,1) 0.194232; 3(1,2) 0.05149525; "
+      "3(2,0) Survey exp; 3(2,1) N/A; 3(3,2) N/A; 3(4,1) -3.597238; 3(5,2) 8.009058");
+  ExpectCaptions(frmSTD->lblEst, "0 0.2; 1 6.071407; 2 -0.1627367; 3 N/A; 5 643.8653");
+  ExpectCaptions(frmSTD->lblStd, "0 N/A; 1 0.2146013; 2 0.3919703; 4 N/A; 5 159.7072");
+  ExpectResults(
+      "0(5,1) 268.8977; 0(5,3) 109.8273; 0(6,2) 196.8065; 5(1,2) 154.353; 5(2,4) 153.0439; "
+      "5(3,6) 283.1964; 6(5,2) 268.8977; 8(2,2) 125.6079; 9(3,2) 0.4952156; "
+      "10(1,2) 0.7480153; 11(2,2) 0.6496223; 12(3,2) 0.1428914; 13(3,2) 0.2857828");
   ExpectCaptions(frmOutputData->lblRatioStdDev,
-                 {"0 0.1912828", "1 0.1363136", "2 0.2251893", "3 0.1569015", "4 0.4359197", "5 0.264078"});
+                 "0 0.1912828; 1 0.1363136; "
+                 "2 0.2251893; 3 0.1569015; "
+                 "4 0.4359197; 5 0.264078");
   EXPECT_TRUE(frmOutput->cmdPlot6.Enabled());
 }
 
@@ -85,8 +67,9 @@ TEST_F(StdParScan, selectivities_at_age_are_taken_period_by_period) {
       "heading\n1 log_selpar_FISH 11 0.1\n2 log_selpar_FISH 12 0.2\n3 log_selpar_FISH 21 0.3\n"
       "4 log_a50_FISH 31 0.4\n5 log_a50_FISH 32\n6 meanr 7 8";
   EXPECT_EQ(Scan(), Texts());
-  ExpectParameters({"2(4,1) 11", "2(5,1) 12", "2(5,2) 0.2", "2(6,1) N/A", "2(4,3) 21", "2(4,4) 0.3",
-                    "2(5,3) N/A", "2(3,2) 0.4", "2(3,3) 32", "2(3,4) ", "2(0,4) Sel. Period 2 Std. Dev."});
+  ExpectParameters(
+      "2(4,1) 11; 2(5,1) 12; 2(5,2) 0.2; 2(6,1) N/A; 2(4,3) 21; 2(4,4) 0.3; 2(5,3) N/A; "
+      "2(3,2) 0.4; 2(3,3) 32; 2(3,4) ; 2(0,4) Sel. Period 2 Std. Dev.");
   EXPECT_EQ(frmSTD->lblEst(5).Caption(), "7");
 }
 
@@ -95,16 +78,18 @@ TEST_F(StdParScan, file_without_data_falls_back_on_the_parameters) {
   EXPECT_EQ(Scan(), Texts{kNoHessianMessage});
   EXPECT_EQ(StdFileRead, kFalse);
   EXPECT_EQ(ParFileRead, kTrue);
-  ExpectParameters({"0(1,1) -1.413741", "0(5,1) 0.4483851", "0(5,2) N/A", "1(3,1) 0.1028588", "1(1,2) N/A",
-                    "2(1,1) -2", "2(2,1) 0.3822052", "2(3,1) 0.6655878", "2(3,2) N/A", "2(6,1) 0",
-                    "2(6,2) N/A", "3(1,1) 0.194232", "3(2,1) 1", "3(3,1) -2", "3(4,1) -3.597238",
-                    "3(5,1) -0.4055663", "3(5,2) N/A"});
-  ExpectCaptions(frmSTD->lblEst, {"0 0.2", "1 6.071407", "2 -0.1627367", "3 1", "4 1"});
-  ExpectCaptions(frmSTD->lblStd, {"0 N/A", "2 N/A", "5 N/A"});
-  ExpectResults({"0(5,1) ", "0(6,0) Proj Year Std. Dev.", "0(6,1) N/A", "0(6,3) N/A", "5(1,2) N/A",
-                 "5(3,4) N/A", "5(3,6) N/A", "5(3,5) 762.9955", "6(5,2) N/A", "6(5,3) 0.8086107",
-                 "8(2,2) N/A", "9(3,2) N/A"});
-  ExpectCaptions(frmOutputData->lblRatioStdDev, {"0 N/A", "3 N/A", "4 N/A", "5 N/A"});
+  ExpectParameters(
+      "0(1,1) -1.413741; 0(5,1) 0.4483851; 0(5,2) N/A; 1(3,1) 0.1028588; 1(1,2) N/A; "
+      "2(1,1) -2; 2(2,1) 0.3822052; 2(3,1) 0.6655878; 2(3,2) N/A; 2(6,1) 0; 2(6,2) N/A; "
+      "3(1,1) 0.194232; 3(2,1) 1; 3(3,1) -2; 3(4,1) -3.597238; 3(5,1) -0.4055663; "
+      "3(5,2) N/A");
+  ExpectCaptions(frmSTD->lblEst, "0 0.2; 1 6.071407; 2 -0.1627367; 3 1; 4 1");
+  ExpectCaptions(frmSTD->lblStd, "0 N/A; 2 N/A; 5 N/A");
+  ExpectResults(
+      "0(5,1) ; 0(6,0) Proj Year Std. Dev.; 0(6,1) N/A; 0(6,3) N/A; 5(1,2) N/A; "
+      "5(3,4) N/A; 5(3,6) N/A; 5(3,5) 762.9955; 6(5,2) N/A; 6(5,3) 0.8086107; 8(2,2) N/A; "
+      "9(3,2) N/A");
+  ExpectCaptions(frmOutputData->lblRatioStdDev, "0 N/A; 3 N/A; 4 N/A; 5 N/A");
   for (const int band : {0, 3, 4, 5, 6, 7, 8}) {
     EXPECT_FALSE(frmOutput->txtSTDplus(band).Enabled());
     EXPECT_EQ(frmOutput->txtSTDminus(band).BackColor(), kButtonFace);
@@ -164,9 +149,11 @@ TEST_F(StdParScan, after_a_missing_key_all_later_parameters_are_missing) {
     const auto expected_cell = [i](const char* cell, std::size_t key, const char* value) {
       return std::string(cell) + (i <= key ? " N/A" : value);
     };
-    ExpectParameters({expected_cell("0(2,1)", 2, " 0.2443504"), expected_cell("2(2,1)", 8, " 0.3822052"),
-                      expected_cell("2(6,1)", 10, " 0"), "3(5,1) N/A"});
-    ExpectCaptions(frmSTD->lblEst, {expected_cell("0", 0, " 0.2"), expected_cell("2", 3, " -0.1627367")});
+    ExpectParameters(expected_cell("0(2,1)", 2, " 0.2443504") + "; " +
+                     expected_cell("2(2,1)", 8, " 0.3822052") + "; " + expected_cell("2(6,1)", 10, " 0") +
+                     "; 3(5,1) N/A");
+    ExpectCaptions(frmSTD->lblEst,
+                   expected_cell("0", 0, " 0.2") + "; " + expected_cell("2", 3, " -0.1627367"));
     UnloadResults();
   }
 }
@@ -197,7 +184,7 @@ TEST_F(StdParScan, faulty_files_end_in_their_traps) {
     EXPECT_EQ(ParFileRead, Flag(row.parameters_read));
     EXPECT_EQ(frmSTD.Loaded(), row.parameters_read);
     EXPECT_EQ(OutputFormsOpen, kTrue);
-    ExpectResults({"0(1,1) 707.2888", "0(6,1) N/A"});
+    ExpectResults("0(1,1) 707.2888; 0(6,1) N/A");
     UnloadResults();
   }
   // The parameter file is looked for beside the control file that the form shows.
