@@ -174,9 +174,11 @@ TEST_F(ReportScan, any_line_end_and_any_case_of_a_key_is_read) {
     report.clear();
     for (const char c : whole) c == '\n' ? report.append(line_end) : report.append(1, c);
     Edit(report, "Version 1.4", "vERSION 1.4");
+    Edit(report, "period 1 from 2001",
+         "PERIOD 1 from 1950");  // an only period is headed by the years of the case
     Edit(report, "exploitable biomass at age (mt) = 2001", "EXPLOITABLE Biomass At Age (mt) = 2001");
     EXPECT_EQ(Scan(), Texts());
-    ExpectResults("0(1,3) 352.6363; 26(3,3) 512.8584");
+    ExpectResults("0(1,3) 352.6363; 14(0,1) Period 1: 2001-2003; 26(3,3) 512.8584");
     UnloadResults();
   }
 }
