@@ -74,7 +74,8 @@ const SpecialValue kSpecialValues[] = {
 
 std::string SpecialValueOf(const SpecialValue& special, const IndexedName& asked, std::string_view word) {
   if (asked.at.size() != special.indices) {
-    StopWithError(std::string(special.name) + " has " + std::to_string(special.indices) + " indices");
+    StopWithError(std::string(special.name) + " takes " + std::to_string(special.indices) +
+                  (special.indices == 1 ? " index" : " indices"));
   }
   try {
     return special.value(asked.at.data());
