@@ -38,18 +38,24 @@ class DataText {
       at = end + 2;
     }
   }
-  // Several lines of values are parted by "|".
-  void Put(const std::string& name, const std::string& values) {
-    Texts& lines = Find(name).values;
-    lines.clear();
-    for (std::size_t at = 0; at <= values.size();) {
-      const std::size_t end = std::min(values.find('|', at), values.size());
-      lines.push_back(values.substr(at, end - at));
-      at = end + 1;
+  // "section=values;section=values"; several lines of values are parted by "|".
+  void Put(std::string_view changes) {
+    while (!changes.empty()) {
+      const std::string_view change = Cut(changes, ';');
+      const std::size_t mark = change.rfind('=');
+      std::string_view values = change.substr(mark + 1);
+      Texts& lines = Find(change.substr(0, mark)).values;
+      lines.clear();
+      do lines.emplace_back(Cut(values, '|'));
+      while (!values.empty());
     }
   }
-  std::string Values(const std::string& name) { return JoinLines(Find(name).values, "|"); }
-  void Drop(const std::string& name) { Find(name).values.clear(); }
+  // Each line with a "|" behind it.
+  std::string Values(std::string_view name) { return JoinLines(Find(name).values, "|"); }
+  // "section;section": they lose their values.
+  void Drop(std::string_view names) {
+    while (!names.empty()) Find(Cut(names, ';')).values.clear();
+  }
   void PutHead(const Texts& comments) { sections_.front().comments = comments; }
   Texts Lines() const {
     Texts lines;
@@ -66,6 +72,13 @@ class DataText {
     Texts comments;
     Texts values;
   };
+  // The text up to a mark, which is taken off with it.
+  static std::string_view Cut(std::string_view& text, char mark) {
+    const std::size_t end = std::min(text.find(mark), text.size());
+    const std::string_view head = text.substr(0, end);
+    text.remove_prefix(std::min(end + 1, text.size()));
+    return head;
+  }
   void Add(const std::string& line) {
     if (!line.starts_with('#')) {
       sections_.back().values.push_back(line);
@@ -74,16 +87,22 @@ class DataText {
     if (sections_.empty() || !sections_.back().values.empty()) sections_.emplace_back();
     sections_.back().comments.push_back(line);
   }
-  Section& Find(const std::string& name) {
+  Section& Find(std::string_view name) {
     for (Section& section : sections_) {
       for (const std::string& comment : section.comments) {
         if (comment.find(name) != std::string::npos) return section;
       }
     }
-    throw std::runtime_error("no section " + name);
+    throw std::runtime_error("no section " + std::string(name));
   }
   std::vector<Section> sections_;
 };
+
+inline std::string Changed(const std::string& bytes, std::string_view changes) {
+  DataText text(bytes);
+  text.Put(changes);
+  return text.Bytes();
+}
 
 class DataFileTest : public ProgramTest {
  protected:
