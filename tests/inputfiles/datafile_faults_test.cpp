@@ -142,7 +142,7 @@ TEST_F(DataFileFaults, a_file_cut_at_any_line_is_told_or_read_and_does_no_harm) 
 
 TEST_F(DataFileFaults, line_ends_of_other_systems_read_the_same) {
   for (const char* end : {"\n", "\r"}) {
-    OpenFresh(JoinLines(DataText(every_option).Lines(), end));
+    OpenFresh(Joined(LinesOf(every_option), end));
     EXPECT_EQ(Saved(), every_option);
     EXPECT_EQ(host.TakeTexts(), Texts{});
   }

@@ -14,29 +14,18 @@
 #include "core/utils.h"
 #include "inputedit/frminput.h"
 #include "inputedit/frmpin.h"
+#include "inputfiles/case_test.h"
 #include "inputfiles/casefiles.h"
 #include "inputfiles/datafile.h"
 #include "support/test_program.h"
 
 namespace tarnvik {
 
-using Texts = std::vector<std::string>;
-
-inline std::string JoinLines(const Texts& lines, const std::string& end) {
-  std::string bytes;
-  for (const std::string& line : lines) bytes += line + end;
-  return bytes;
-}
-
 // Comment lines and the lines of values behind them. A section is named by any part of its comments.
 class DataText {
  public:
   explicit DataText(const std::string& bytes) {
-    for (std::size_t at = 0; at < bytes.size();) {
-      const std::size_t end = bytes.find("\r\n", at);
-      Add(bytes.substr(at, end - at));
-      at = end + 2;
-    }
+    for (const std::string& line : LinesOf(bytes)) Add(line);
   }
   // "section=values;section=values"; several lines of values are parted by "|".
   void Put(std::string_view changes) {
@@ -50,22 +39,16 @@ class DataText {
       while (!values.empty());
     }
   }
-  // Each line with a "|" behind it.
-  std::string Values(std::string_view name) { return JoinLines(Find(name).values, "|"); }
   // "section;section": they lose their values.
   void Drop(std::string_view names) {
     while (!names.empty()) Find(Cut(names, ';')).values.clear();
   }
   void PutHead(const Texts& comments) { sections_.front().comments = comments; }
-  Texts Lines() const {
-    Texts lines;
-    for (const Section& section : sections_) {
-      lines.insert(lines.end(), section.comments.begin(), section.comments.end());
-      lines.insert(lines.end(), section.values.begin(), section.values.end());
-    }
-    return lines;
+  std::string Bytes() const {
+    std::string bytes;
+    for (const Section& section : sections_) bytes += Joined(section.comments) + Joined(section.values);
+    return bytes;
   }
-  std::string Bytes() const { return JoinLines(Lines(), "\r\n"); }
 
  private:
   struct Section {
