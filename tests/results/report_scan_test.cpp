@@ -243,6 +243,8 @@ TEST_F(ReportScan, cpue_series_fills_its_table_and_names_its_page) {
     EXPECT_EQ(frmOutput->Option27(0).Caption(), name + " -- Observed and Predicted");
     EXPECT_TRUE(frmOutput->Option27(0).Value());
     UnloadResults();
+    Edit(report, " 2001 2003\n 11 13", " 2000 2003\n 11 13");
+    EXPECT_EQ(Scan(), Texts{FailedWith("Subscript out of range")});
   }
 }
 
@@ -398,6 +400,8 @@ TEST_F(ReportScan, section_in_the_wrong_place_is_not_found) {
       // Both words of a key, the second behind the first.
       {"Observed Biomass index (year) for survey: 1", "Index (year) for survey: 1, observed",
        "Observed Biomass Index for Survey 1"},
+      {"Ratio of F in 2003 to F in 2001", "Change of F, 2003 to F in 2001",
+       "Ratio of F in the Last Year to F in the First Year"},
       {"relative to 2002 spawning biomass", "relative to 2002",
        "Spawning Biomass in the Last Year Relative to the Reference Year"},
   };
@@ -445,7 +449,9 @@ TEST_F(ReportScan, report_of_other_dimensions_is_read_or_ends_in_the_trap) {
           const Texts texts = Scan();
           if (OutputFormsOpen == kTrue) {
             ++read;
-            EXPECT_TRUE(frmOutputData.Loaded());
+            ASSERT_TRUE(frmOutputData.Loaded());
+            const std::string& caption = frmOutputData->SSTab1.TabCaption(3);
+            EXPECT_EQ(caption, surveys == 0 ? " Survey  Index " : " Survey Biomass Index ");
           } else {
             ASSERT_FALSE(texts.empty());
             EXPECT_EQ(texts.back().find("Error Scanning in Report File|"), 0u);
