@@ -9,7 +9,6 @@
 #include "inputfiles/datafile.h"
 #include "inputfiles/paramfile.h"
 #include "platform/host.h"
-#include "plots/plots.h"
 
 namespace tarnvik {
 
@@ -20,11 +19,6 @@ Answer AskToSave(const char* question) {
   return ShowMessage(question + line + line + "Any Windows With Plots Will Be Closed." + line +
                          "To Cancel Action, Click Cancel.",
                      Icon::Question, Buttons::YesNoCancel);
-}
-
-void UnloadInputPlots() {
-  UnloadForm(frmPlotInput);
-  frmMain->mnuDataPlotInput.SetEnabled(false);
 }
 
 // What an incomplete case cannot do: saving it whole, running it, looking at its results.
@@ -59,7 +53,7 @@ void frmInput_Form_QueryUnload(bool& cancel, UnloadMode mode) {
     }
   }
   if (mode == UnloadMode::MainClosing) return;
-  UnloadInputPlots();
+  CloseInputPlots();
   if (OutputFormsOpen == kTrue) UnloadResultForms();
   NewNFYear = NewNXYear = NewNAges = NewNSelPer = NewNIndex = NewNYears = NewRecYr = 0;
   DisableCaseMenus();
@@ -88,7 +82,7 @@ void frmPin_Form_QueryUnload(bool& cancel, UnloadMode mode) {
   }
   if (mode == UnloadMode::MainClosing) return;
   PinFileOpen = kFalse;
-  UnloadInputPlots();
+  CloseInputPlots();
   if (OutputFormsOpen == kTrue || StdFileRead == kTrue || ParFileRead == kTrue) UnloadResultForms();
   DisableCaseMenus();
   frmMain->mnuFileSavePinAs.SetEnabled(false);

@@ -83,7 +83,11 @@ std::vector<EstimatePair> EstimatePairs(InputForm& f) {
 void frmInput_chkEstimate_Click(int index) {
   const CheckBox& check = frmInput->chkEstimate(index);
   ApplyEstimatePairs(check);
-  if (index == 1) frmInput->cmbMType.SetVisible(check.IsChecked());
+  if (index == 1) {
+    frmInput->cmbMType.SetVisible(check.IsChecked());
+    // A file that held M fixed has disabled the list.
+    if (check.IsChecked()) frmInput->cmbMType.SetEnabled(true);
+  }
   // With an initial equilibrium F the recruitment deviations reach back before the first year.
   if (index == 5) UpdateRecDevGrid();
 }

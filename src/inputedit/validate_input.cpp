@@ -342,7 +342,11 @@ double SmallestCatch() {
 bool CheckEquilibriumCatch() {
   const TextBox& field = frmInput->txtEstimate(5);
   if (!frmInput->chkEstimate(5).IsChecked()) return true;
-  if (!CheckNamed(kTabFittingOptions, field, Negative, "Initial Equilibrium for Catch Biomass")) return false;
+  const FieldCheck checks[] = {
+      {true, field, Blank, "Missing Value for Initial Equilibrium for Catch Biomass"},
+      {true, field, Negative, "Invalid Value for Initial Equilibrium for Catch Biomass"},
+  };
+  if (!CheckFields(kTabFittingOptions, checks)) return false;
   if (Val(field.Text()) < SmallestCatch()) {
     InputFault(kTabFittingOptions,
                "Warning: The Value for Initial Equilibrium for Catch Biomass May be Too Small\r\n\r\n"

@@ -28,13 +28,12 @@ std::string ControlFolder() {
 // dialog has moved to the control file's own. A path that leads nowhere, since the case was moved or comes
 // from another machine, may be replaced by the file of that name beside the control file. False when there is
 // no file.
-bool TakeNamedFile(std::string& path, const std::string& kind) {
+bool TakeNamedFile(std::string& path, const std::string& missing) {
   const std::string name(Trim(ReadDataLine()));
   if (FileExists(name)) {
     path = name;
     return true;
   }
-  const std::string missing = kind + " is Not Available in Path Specified";
   const std::size_t separator = LastSeparator(name);
   const std::string beside =
       separator == std::string::npos ? std::string() : ControlFolder() + name.substr(separator + 1);
@@ -54,8 +53,8 @@ bool TakeNamedFile(std::string& path, const std::string& kind) {
 bool ReadNames() {
   File1.Open(CtlFilePath);
   frmInput->txtModel.SetText(ReadDataLine());
-  const bool found =
-      TakeNamedFile(PinFilePath, "Parameter Input File") && TakeNamedFile(DatFilePath, "Input Data File");
+  const bool found = TakeNamedFile(PinFilePath, "Parameter Input File is Not Available in Path Specified") &&
+                     TakeNamedFile(DatFilePath, "Input Data File is Not Available in Path Specified");
   if (!found) {
     ShowPath(frmInput->lblFile(0), kNoneSelected);
     ShowPath(frmInput->lblFile(1), kNoneSelected);

@@ -5,11 +5,11 @@
 #include "core/text.h"
 #include "inputedit/frminput.h"
 #include "inputedit/frmpin.h"
+#include "inputfiles/casefiles.h"
 #include "inputfiles/datafile.h"
 #include "inputfiles/newcase.h"
 #include "inputfiles/save_names.h"
 #include "platform/host.h"
-#include "plots/plots.h"
 
 namespace tarnvik {
 
@@ -43,8 +43,7 @@ bool ParametersBlank() {
 
 // The plots and results of the data that are about to go.
 void ForgetOldData() {
-  UnloadForm(frmPlotInput);
-  frmMain->mnuDataPlotInput.SetEnabled(false);
+  CloseInputPlots();
   if (OutputFormsOpen == kTrue || StdFileRead == kTrue || ParFileRead == kTrue) {
     UnloadResultForms();
     DisableResultMenus();

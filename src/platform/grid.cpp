@@ -14,29 +14,33 @@ void CheckTableSize(long long a, long long b, long long c) {
   }
 }
 
+template <class T>
+std::vector<T> Grid::Refitted(std::vector<T>& table, int rows, int cols) const {
+  const auto size = static_cast<std::size_t>(rows) * static_cast<std::size_t>(cols);
+  if (cols == cols_) {
+    table.resize(size);
+    return std::move(table);
+  }
+  std::vector<T> refitted(size);
+  const auto kept_rows = static_cast<std::size_t>(std::min(rows, rows_));
+  const auto kept_cols = static_cast<std::size_t>(std::min(cols, cols_));
+  for (std::size_t r = 0; r < kept_rows; ++r) {
+    for (std::size_t c = 0; c < kept_cols; ++c) {
+      refitted[r * static_cast<std::size_t>(cols) + c] =
+          std::move(table[r * static_cast<std::size_t>(cols_) + c]);
+    }
+  }
+  return refitted;
+}
+
 void Grid::Resize(int rows, int cols) {
   if (rows < 0 || cols < 0) throw RunTimeError(kErrInvalidProperty);
   if (rows == rows_ && cols == cols_) return;
   CheckTableSize(rows, cols);
-  if (cols == cols_) {
-    cells_.resize(static_cast<std::size_t>(rows) * static_cast<std::size_t>(cols));
-  } else {
-    std::vector<std::string> cells(static_cast<std::size_t>(rows) * static_cast<std::size_t>(cols));
-    const auto kept_rows = static_cast<std::size_t>(std::min(rows, rows_));
-    const auto kept_cols = static_cast<std::size_t>(std::min(cols, cols_));
-    for (std::size_t r = 0; r < kept_rows; ++r) {
-      for (std::size_t c = 0; c < kept_cols; ++c) {
-        cells[r * static_cast<std::size_t>(cols) + c] =
-            std::move(cells_[r * static_cast<std::size_t>(cols_) + c]);
-      }
-    }
-    cells_ = std::move(cells);
-  }
-  if (rows < rows_ || cols < cols_) {
-    std::erase_if(colors_, [&](const auto& c) { return c.first.first >= rows || c.first.second >= cols; });
-    std::erase_if(col_widths_, [&](const auto& w) { return w.first >= cols; });
-    std::erase_if(row_heights_, [&](const auto& h) { return h.first >= rows; });
-  }
+  cells_ = Refitted(cells_, rows, cols);
+  if (!colors_.empty()) colors_ = Refitted(colors_, rows, cols);
+  std::erase_if(col_widths_, [&](const auto& w) { return w.first >= cols; });
+  std::erase_if(row_heights_, [&](const auto& h) { return h.first >= rows; });
   rows_ = rows;
   cols_ = cols;
   MarkChanged();
@@ -79,20 +83,19 @@ void Grid::SetRowHeight(int row, int height) {
 }
 
 Color Grid::CellBackColor(int row, int col) const {
-  At(row, col);
-  const auto found = colors_.find({row, col});
-  return found == colors_.end() ? kWindowBackground : found->second.back;
+  const std::size_t at = At(row, col);
+  return colors_.empty() ? CellColors{}.back : colors_[at].back;
 }
 
 Color Grid::CellForeColor(int row, int col) const {
-  At(row, col);
-  const auto found = colors_.find({row, col});
-  return found == colors_.end() ? kBlack : found->second.fore;
+  const std::size_t at = At(row, col);
+  return colors_.empty() ? CellColors{}.fore : colors_[at].fore;
 }
 
 void Grid::SetCellColors(int row, int col, Color back, Color fore) {
-  At(row, col);
-  colors_.insert_or_assign({row, col}, CellColors{back, fore});
+  const std::size_t at = At(row, col);
+  if (colors_.empty()) colors_.resize(cells_.size());
+  colors_[at] = {back, fore};
   MarkChanged();
 }
 

@@ -85,15 +85,18 @@ class Grid : public Control {
     return static_cast<std::size_t>(row) * static_cast<std::size_t>(cols_) + static_cast<std::size_t>(col);
   }
   struct CellColors {
-    Color back;
-    Color fore;
+    Color back = kWindowBackground;
+    Color fore = kBlack;
   };
+  // A table of this grid's cells refitted to another size; what remains is kept.
+  template <class T>
+  std::vector<T> Refitted(std::vector<T>& table, int rows, int cols) const;
   int rows_ = 2;
   int cols_ = 2;
   std::vector<std::string> cells_ = std::vector<std::string>(4);
   std::map<int, int> col_widths_;
   std::map<int, int> row_heights_;
-  std::map<std::pair<int, int>, CellColors> colors_;
+  std::vector<CellColors> colors_;  // of every cell, once one has been coloured; empty before
   std::string format_;
 };
 

@@ -43,46 +43,55 @@ void PutPairValue(int pair, Text value) {
 
 // A parameter of the file: a key in the line before its values, and where value i goes.
 struct Parameter {
-  const char* key;   // in upper case
-  const char* what;  // for the message when the key is missing
+  const char* key;      // in upper case
+  const char* missing;  // the message when the key is missing
   int (*values)();
   void (*put)(int i, Text value);
 };
 
 const Parameter kParameters[] = {
-    {"# M:", "M", One, PutPoint<0>},
-    {"MEAN_LOG_REC", "Mean Log Recruitment", One, PutPoint<1>},
-    {"REC_DEV", "Recruitment Deviations", [] { return DataRows(0); }, PutRow<0>},
-    {"LOG_AVG_FMORT", "Log of Average F", One, PutPoint<2>},
-    {"FMORT_DEV", "Fishing Mortality Deviations", [] { return DataRows(1); }, PutRow<1>},
-    {"# QCPUE", "CPUE q", One, PutPoint<3>},
-    {"EXP_CPUE", "CPUE Exponent", One, PutPoint<4>},
-    {"LOG_GAMMA_FISH", "the Fishery Selectivity Log Gamma", Periods, PutPairValue<2, 1>},
-    {"LOG_BETA_FISH", "Fishery Selectivity Log Beta", Periods, PutPairValue<2, 2>},
-    {"LOG_A50_FISH", "Fishery Selectivity Log a50", Periods, PutPairValue<2, 3>},
+    {"# M:", "Unable to Retrieve M from Output Parameter File", One, PutPoint<0>},
+    {"MEAN_LOG_REC", "Unable to Retrieve Mean Log Recruitment from Output Parameter File", One, PutPoint<1>},
+    {"REC_DEV", "Unable to Retrieve Recruitment Deviations from Output Parameter File",
+     [] { return DataRows(0); }, PutRow<0>},
+    {"LOG_AVG_FMORT", "Unable to Retrieve Log of Average F from Output Parameter File", One, PutPoint<2>},
+    {"FMORT_DEV", "Unable to Retrieve Fishing Mortality Deviations from Output Parameter File",
+     [] { return DataRows(1); }, PutRow<1>},
+    {"# QCPUE", "Unable to Retrieve CPUE q from Output Parameter File", One, PutPoint<3>},
+    {"EXP_CPUE", "Unable to Retrieve CPUE Exponent from Output Parameter File", One, PutPoint<4>},
+    {"LOG_GAMMA_FISH", "Unable to Retrieve the Fishery Selectivity Log Gamma from Output Parameter File",
+     Periods, PutPairValue<2, 1>},
+    {"LOG_BETA_FISH", "Unable to Retrieve Fishery Selectivity Log Beta from Output Parameter File", Periods,
+     PutPairValue<2, 2>},
+    {"LOG_A50_FISH", "Unable to Retrieve Fishery Selectivity Log a50 from Output Parameter File", Periods,
+     PutPairValue<2, 3>},
 };
 
 // Behind the selectivities at age, which have a line for each period.
 const Parameter kSurveyParameters[] = {
-    {"QSURVEY", "Survey q", Surveys, PutPairValue<3, 1>},
-    {"EXP_SURVEY", "Survey Exponent", Surveys, PutPairValue<3, 2>},
-    {"LOG_GAMMA_SURVEY", "Survey Log Gamma", Surveys, PutPairValue<3, 3>},
-    {"LOG_BETA_SURVEY", "Survey Log Beta", Surveys, PutPairValue<3, 4>},
-    {"LOG_A50_SURVEY", "Survey Log a50", Surveys, PutPairValue<3, 5>},
+    {"QSURVEY", "Unable to Retrieve Survey q from Output Parameter File", Surveys, PutPairValue<3, 1>},
+    {"EXP_SURVEY", "Unable to Retrieve Survey Exponent from Output Parameter File", Surveys,
+     PutPairValue<3, 2>},
+    {"LOG_GAMMA_SURVEY", "Unable to Retrieve Survey Log Gamma from Output Parameter File", Surveys,
+     PutPairValue<3, 3>},
+    {"LOG_BETA_SURVEY", "Unable to Retrieve Survey Log Beta from Output Parameter File", Surveys,
+     PutPairValue<3, 4>},
+    {"LOG_A50_SURVEY", "Unable to Retrieve Survey Log a50 from Output Parameter File", Surveys,
+     PutPairValue<3, 5>},
 };
 
 // Whether the key was found; says so if not. The values stand in the next line.
-bool FindParameter(const char* key, const char* what) {
+bool FindParameter(const char* key, const char* missing) {
   if (FindKey(key)) {
     ReadLine();
     return true;
   }
-  ShowMessage("Unable to Retrieve " + std::string(what) + " from Output Parameter File", Icon::Exclamation);
+  ShowMessage(missing, Icon::Exclamation);
   return false;
 }
 
 void ScanParameter(const Parameter& parameter) {
-  const bool found = FindParameter(parameter.key, parameter.what);
+  const bool found = FindParameter(parameter.key, parameter.missing);
   Text value = found ? TokenFirst(Line()) : kNotAvailable;
   for (int i = 1; i <= parameter.values(); ++i) {
     parameter.put(i, value);
@@ -91,7 +100,9 @@ void ScanParameter(const Parameter& parameter) {
 }
 
 void ScanFisherySelectivityAtAge() {
-  const bool found = FindParameter("LOG_SELPAR_FISH", "Log of Fishery Selectivity Parameters");
+  const bool found =
+      FindParameter("LOG_SELPAR_FISH",
+                    "Unable to Retrieve Log of Fishery Selectivity Parameters from Output Parameter File");
   for (int period = 1; period <= NSelPer; ++period) {
     if (found && period > 1) ReadLine();
     Text value = found ? TokenFirst(Line()) : kNotAvailable;

@@ -77,105 +77,122 @@ struct Section {
 };
 
 const Section kSections[] = {
-    {"FISH AT AGE", nullptr, "Estimated Numbers of Fish at Age",
+    {"FISH AT AGE", nullptr, "Estimated Numbers of Fish at Age from Report File",
      [] { ReadBlock(PrepareResultTable(0), 0, 1, YearRows()); }},
-    {"FISHING MORTALITY", nullptr, "Estimated Fishing Mortality",
+    {"FISHING MORTALITY", nullptr, "Estimated Fishing Mortality from Report File",
      [] { ReadBlock(PrepareResultTable(1), 0, 1, YearRows()); }},
     {nullptr, nullptr, nullptr, ScanCpue},
     {nullptr, nullptr, nullptr, ScanSurveyIndices},
-    {"COMPOSITION INPUT SAMPLE SIZE", nullptr, "Fishery Age Composition Input Sample Size",
+    {"COMPOSITION INPUT SAMPLE SIZE", nullptr, "Fishery Age Composition Input Sample Size from Report File",
      ReadInputSampleSizes},
     {"COMPOSITION ESTIMATED EFFECTIVE SAMPLE SIZE", nullptr,
-     "Fishery Age Composition Estimated Effective Sample Size",
+     "Fishery Age Composition Estimated Effective Sample Size from Report File",
      [] { ReadDown(ResultTable(16), 0, 2, RowsTo(FishAgeNYears)); }},
-    {"OBSERVED FISHERY PROPORTION", nullptr, "Observed Fishery Proportion at Age",
+    {"OBSERVED FISHERY PROPORTION", nullptr, "Observed Fishery Proportion at Age from Report File",
      [] { ReadBlock(PrepareResultTable(3), 0, 2, FisheryAgeRows()); }},
-    {"PREDICTED FISHERY PROPORTION", nullptr, "Predicted Fishery Proportion at Age",
+    {"PREDICTED FISHERY PROPORTION", nullptr, "Predicted Fishery Proportion at Age from Report File",
      [] { ReadBlock(ResultTable(3), NYears, 2, YearRows()); }},
-    {"FISHERY PROPORTION RESIDUALS", nullptr, "Fishery Proportion Residuals at Age",
+    {"FISHERY PROPORTION RESIDUALS", nullptr, "Fishery Proportion Residuals at Age from Report File",
      [] { ReadBlock(ResultTable(3), 2 * NYears, 2, FisheryAgeRows()); }},
-    {"STANDARDIZED FISHERY PROPORTION RESIDUALS", nullptr, "Standardized Fishery Proportion Residuals at Age",
+    {"STANDARDIZED FISHERY PROPORTION RESIDUALS", nullptr,
+     "Standardized Fishery Proportion Residuals at Age from Report File",
      [] { ReadBlock(ResultTable(3), 3 * NYears, 2, FisheryAgeRows()); }},
     {nullptr, nullptr, nullptr, ScanSurveyAges},
-    {"POPULATION BIOMASS (MT)", nullptr, "Population Biomass",
+    {"POPULATION BIOMASS (MT)", nullptr, "Population Biomass from Report File",
      [] {
        PrepareResultTable(5);
        ReadBiomassTotal(1);
      }},
-    {"DEPLETION RATIO IN", "FOR POPULATION BIOMASS", "Population Biomass in the Last Year",
+    {"DEPLETION RATIO IN", "FOR POPULATION BIOMASS", "Population Biomass in the Last Year from Report File",
      [] { ReadRatio(0); }},
     {"RELATIVE TO", "POPULATION BIOMASS",
-     "Population Biomass in the Last Year Relative to the Reference Year", [] { ReadRatio(1); }},
-    {"SPAWNING BIOMASS (MT)", nullptr, "Spawning Biomass", [] { ReadBiomassTotal(3); }},
-    {"DEPLETION RATIO IN", "FOR SPAWNING BIOMASS", "Spawning Biomass in the Last Year", [] { ReadRatio(2); }},
-    {"RELATIVE TO", "SPAWNING BIOMASS", "Spawning Biomass in the Last Year Relative to the Reference Year",
+     "Population Biomass in the Last Year Relative to the Reference Year from Report File",
+     [] { ReadRatio(1); }},
+    {"SPAWNING BIOMASS (MT)", nullptr, "Spawning Biomass from Report File", [] { ReadBiomassTotal(3); }},
+    {"DEPLETION RATIO IN", "FOR SPAWNING BIOMASS", "Spawning Biomass in the Last Year from Report File",
+     [] { ReadRatio(2); }},
+    {"RELATIVE TO", "SPAWNING BIOMASS",
+     "Spawning Biomass in the Last Year Relative to the Reference Year from Report File",
      [] { ReadRatio(3); }},
-    {"EXPLOITABLE BIOMASS (MT)", nullptr, "Exploitable Biomass", [] { ReadBiomassTotal(5); }},
+    {"EXPLOITABLE BIOMASS (MT)", nullptr, "Exploitable Biomass from Report File",
+     [] { ReadBiomassTotal(5); }},
     {"POPULATION NUMBERS AT AGE", "TERMINAL YEAR PLUS ONE",
-     "Population Numbers at Age at the Start of the Terminal Year Plus One",
+     "Population Numbers at Age at the Start of the Terminal Year Plus One from Report File",
      [] {
        SkipLines(1);
        ReadAcross(ResultTable(0), NYears + 1, 1, NAges);
      }},
-    {"MEAN RECRUITMENT", nullptr, "Mean Recruitment", [] { ReadRatio(11); }},
-    {"RECRUITMENT (THOUSANDS OF AGE-1", nullptr, "Recruitment by Year", ReadRecruitment},
-    {"LOG-SCALE RESIDUALS FOR RECRUITMENT", nullptr, "Standardized Log-Scale Residuals for Recruitment",
+    {"MEAN RECRUITMENT", nullptr, "Mean Recruitment from Report File", [] { ReadRatio(11); }},
+    {"RECRUITMENT (THOUSANDS OF AGE-1", nullptr, "Recruitment by Year from Report File", ReadRecruitment},
+    {"LOG-SCALE RESIDUALS FOR RECRUITMENT", nullptr,
+     "Standardized Log-Scale Residuals for Recruitment from Report File",
      [] { ReadDown(ResultTable(6), 0, 3, RecruitRows()); }},
-    {"OBSERVED CATCH BIOMASS", nullptr, "Observed Catch Biomass",
+    {"OBSERVED CATCH BIOMASS", nullptr, "Observed Catch Biomass from Report File",
      [] {
        SkipLines(1);
        ReadDown(PrepareResultTable(7), 0, 1, YearRows());
      }},
-    {"PREDICTED CATCH BIOMASS", nullptr, "Predicted Catch Biomass",
+    {"PREDICTED CATCH BIOMASS", nullptr, "Predicted Catch Biomass from Report File",
      [] { ReadDown(ResultTable(7), 0, 2, YearRows()); }},
-    {"RESIDUALS FOR CATCH BIOMASS", nullptr, "Residuals for Catch Biomass",
+    {"RESIDUALS FOR CATCH BIOMASS", nullptr, "Residuals for Catch Biomass from Report File",
      [] { ReadDown(ResultTable(7), 0, 3, YearRows()); }},
-    {"LOG-SCALE RESIDUALS FOR CATCH BIOMASS", nullptr, "Standardized Log-Scale Residuals for Catch Biomass",
+    {"LOG-SCALE RESIDUALS FOR CATCH BIOMASS", nullptr,
+     "Standardized Log-Scale Residuals for Catch Biomass from Report File",
      [] { ReadDown(ResultTable(7), 0, 4, YearRows()); }},
-    {"ANNUAL SURPLUS PRODUCTION", nullptr, "Annual Surplus Production",
+    {"ANNUAL SURPLUS PRODUCTION", nullptr, "Annual Surplus Production from Report File",
      [] {
        SkipLines(1);
        ReadDown(PrepareResultTable(8), 0, 1, RowsTo(NYears - 1));
      }},
-    {"ANNUAL FISHING MORTALITY", nullptr, "Estimated Average Annual Fishing Mortality by Year",
+    {"ANNUAL FISHING MORTALITY", nullptr,
+     "Estimated Average Annual Fishing Mortality by Year from Report File",
      [] {
        SkipLines(1);
        ReadDown(PrepareResultTable(9), 0, 1, YearRows());
      }},
     {"LOG-SCALE RESIDUALS FOR FISHING MORTALITY", nullptr,
-     "Standardized Log-Scale Residuals for Fishing Mortality",
+     "Standardized Log-Scale Residuals for Fishing Mortality from Report File",
      [] { ReadDown(ResultTable(9), 0, 3, YearRows()); }},
     {nullptr, nullptr, nullptr,
-     [] { ScanRatioOfF(std::to_string(NFYear), 4, "Ratio of F in the Last Year to F in the First Year"); }},
+     [] {
+       ScanRatioOfF(std::to_string(NFYear), 4,
+                    "Ratio of F in the Last Year to F in the First Year from Report File");
+     }},
     {nullptr, nullptr, nullptr,
      [] {
-       ScanRatioOfF(frmInput->cmbRefYr.Text(), 5, "Ratio of F in the Last Year to F in the Reference Year");
+       ScanRatioOfF(frmInput->cmbRefYr.Text(), 5,
+                    "Ratio of F in the Last Year to F in the Reference Year from Report File");
      }},
     {nullptr, nullptr, nullptr, ScanReferencePoints},
-    {"FISHERY SELECTIVITY BY AGE", nullptr, "Fishery Selectivity by Age", ScanFisherySelectivity},
-    {"SELECTIVITY BY AGE FOR SURVEY", nullptr, "Survey Selectivity by Age", ScanSurveySelectivity},
-    {"OBJECTIVE FUNCTION", nullptr, "Objective Function Value",
+    {"FISHERY SELECTIVITY BY AGE", nullptr, "Fishery Selectivity by Age from Report File",
+     ScanFisherySelectivity},
+    {"SELECTIVITY BY AGE FOR SURVEY", nullptr, "Survey Selectivity by Age from Report File",
+     ScanSurveySelectivity},
+    {"OBJECTIVE FUNCTION", nullptr, "Objective Function Value from Report File",
      [] { frmOutputData->lblSumm(10).SetCaption(Word(Line(), 4)); }},
-    {"LIKELIHOOD COMPONENTS", nullptr, "Likelihood Components", ScanLikelihood},
-    {"ROOT MEAN SQUARE", nullptr, "Root Mean Square Errors", ScanErrors},
-    {"FISHERY YEARS:", nullptr, "Root Mean Square Errors", ScanFisheryAgeErrors},
-    {"SURVEY 1 YEARS:", nullptr, "Root Mean Square Errors", ScanSurveyAgeErrors},
-    {"FISHERY SELECTIVITY", nullptr, "Fishery Selectivity at Age by Year",
+    {"LIKELIHOOD COMPONENTS", nullptr, "Likelihood Components from Report File", ScanLikelihood},
+    {"ROOT MEAN SQUARE", nullptr, "Root Mean Square Errors from Report File", ScanErrors},
+    {"FISHERY YEARS:", nullptr, "Root Mean Square Errors from Report File", ScanFisheryAgeErrors},
+    {"SURVEY 1 YEARS:", nullptr, "Root Mean Square Errors from Report File", ScanSurveyAgeErrors},
+    {"FISHERY SELECTIVITY", nullptr, "Fishery Selectivity at Age by Year from Report File",
      [] { TakeByYear(19, TakeSelectivity); }},
     {nullptr, nullptr, nullptr, ScanNaturalMortality},
-    {"UNFISHED MEAN SPAWN", nullptr, "Unfished Mean Spawning Weight at Age", [] { TakeAges(20); }},
-    {"UNFISHED EXPECTED SPAWN", nullptr, "Unfished Expected Spawning Weight at Age", [] { TakeAges(21); }},
-    {"UNFISHED SPAWNING BIOMASS PER", nullptr, "Unfished Spawning Biomass Per Recruit",
+    {"UNFISHED MEAN SPAWN", nullptr, "Unfished Mean Spawning Weight at Age from Report File",
+     [] { TakeAges(20); }},
+    {"UNFISHED EXPECTED SPAWN", nullptr, "Unfished Expected Spawning Weight at Age from Report File",
+     [] { TakeAges(21); }},
+    {"UNFISHED SPAWNING BIOMASS PER", nullptr, "Unfished Spawning Biomass Per Recruit from Report File",
      [] { TakeUnfished(1); }},
-    {"UNFISHED SPAWNING BIO", nullptr, "Unfished Spawning Biomass", [] { TakeUnfished(2); }},
-    {"FRACTION OF UNFISHED", nullptr, "Fraction of Unfished Spawning Biomass by Year",
+    {"UNFISHED SPAWNING BIO", nullptr, "Unfished Spawning Biomass from Report File", [] { TakeUnfished(2); }},
+    {"FRACTION OF UNFISHED", nullptr, "Fraction of Unfished Spawning Biomass by Year from Report File",
      [] { TakeByYear(22, TakeFraction); }},
-    {"CATCH BIOMASS AT AGE", nullptr, "Catch Biomass at Age by Year", [] { TakeByYear(23, TakeAgesOfYear); }},
-    {"POPULATION BIOMASS AT AGE", nullptr, "Population Biomass at Age by Year",
+    {"CATCH BIOMASS AT AGE", nullptr, "Catch Biomass at Age by Year from Report File",
+     [] { TakeByYear(23, TakeAgesOfYear); }},
+    {"POPULATION BIOMASS AT AGE", nullptr, "Population Biomass at Age by Year from Report File",
      [] { TakeByYear(24, TakeAgesOfYear); }},
-    {"SPAWNING BIOMASS AT AGE", nullptr, "Spawning Biomass at Age by Year",
+    {"SPAWNING BIOMASS AT AGE", nullptr, "Spawning Biomass at Age by Year from Report File",
      [] { TakeByYear(25, TakeAgesOfYear); }},
-    {"EXPLOITABLE BIOMASS AT AGE", nullptr, "Exploitable Biomass at Age by Year",
+    {"EXPLOITABLE BIOMASS AT AGE", nullptr, "Exploitable Biomass at Age by Year from Report File",
      [] { TakeByYear(26, TakeAgesOfYear); }},
 };
 
@@ -232,7 +249,7 @@ void EndFailedScan(const std::string& error) {
 }  // namespace
 
 void FailToRetrieve(std::string_view what) {
-  ShowMessage("Unable to Retrieve " + std::string(what) + " from Report File", Icon::Exclamation);
+  ShowMessage("Unable to Retrieve " + std::string(what), Icon::Exclamation);
   throw RunTimeError(kErrScan);
 }
 

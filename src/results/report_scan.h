@@ -14,7 +14,7 @@ namespace tarnvik {
 // ScanSurveyIndices.
 extern std::string SurveyTypeWord;
 
-// Says that a section is missing and raises 50000.
+// Says "Unable to Retrieve " and what of a section that is missing, and raises 50000.
 [[noreturn]] void FailToRetrieve(std::string_view what);
 
 // The optional CPUE series: MSFlexGrid(18), the CPUE page of frmOutput, and all captions that name the

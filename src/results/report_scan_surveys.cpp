@@ -12,8 +12,8 @@ std::string SurveyTypeWord;
 
 namespace {
 
-void FailForSurvey(const char* what, int survey) {
-  FailToRetrieve(std::string(what) + " for Survey " + std::to_string(survey));
+void FailForSurvey(const std::string& what, int survey) {
+  FailToRetrieve(what + std::to_string(survey) + " from Report File");
 }
 
 void NameCpueIndex(const std::string& name) {
@@ -68,10 +68,11 @@ struct IndexStep {
 };
 
 const IndexStep kResidualSteps[] = {
-    {nullptr, "INDEX RESIDUALS (YEAR) FOR SURVEY:", "Biomass Index Residuals", 4},
-    {"LOG-SCALE", "INDEX RESIDUALS (YEAR) FOR SURVEY", "Standardized Log-Scale Biomass Index Residuals", 5},
+    {nullptr, "INDEX RESIDUALS (YEAR) FOR SURVEY:", "Biomass Index Residuals for Survey ", 4},
+    {"LOG-SCALE", "INDEX RESIDUALS (YEAR) FOR SURVEY",
+     "Standardized Log-Scale Biomass Index Residuals for Survey ", 5},
     {"STANDARDIZED LOG-SCALE", "INDEX RESIDUALS (YEAR) FOR SURVEY",
-     "Standardized Log-Scale Biomass Index Residuals", 6},
+     "Standardized Log-Scale Biomass Index Residuals for Survey ", 6},
 };
 
 void ReadSurveyYears(int survey) {
@@ -85,13 +86,13 @@ void ReadSurveyYears(int survey) {
 void ReadSurveyIndex(Grid& grid, int survey) {
   const int base = (survey - 1) * NYears;
   if (!FindKeysInOrder("OBSERVED", "INDEX (YEAR) FOR SURVEY"))
-    FailForSurvey("Observed Biomass Index", survey);
+    FailForSurvey("Observed Biomass Index for Survey ", survey);
   SurveyTypeWord = Word(Line(), 2);
   ReadSurveyYears(survey);
   const RowList rows = SurveyRows(survey);
   ReadDown(grid, base, 2, rows);
   if (!FindKeysInOrder("PREDICTED", "INDEX (YEAR) FOR SURVEY"))
-    FailForSurvey("Predicted Biomass Index", survey);
+    FailForSurvey("Predicted Biomass Index for Survey ", survey);
   ReadDown(grid, base, 3, RowsTo(NYears));
   for (const IndexStep& step : kResidualSteps) {
     const bool found = step.first ? FindKeysInOrder(step.first, step.second) : FindKey(step.second);
@@ -109,21 +110,23 @@ struct AgeStep {
 
 // In the order of the four blocks of the table.
 const AgeStep kAgeSteps[] = {
-    {"OBSERVED PROPORTION AT AGE (YEAR,AGE) FOR SURVEY:", "Observed Survey Proportion at Age", false},
-    {"PREDICTED PROPORTION AT AGE (YEAR,AGE) FOR SURVEY:", "Predicted Survey Proportion at Age", true},
-    {"PROPORTION RESIDUALS AT AGE (YEAR,AGE) FOR SURVEY:", "Proportion Residuals at Age", false},
+    {"OBSERVED PROPORTION AT AGE (YEAR,AGE) FOR SURVEY:", "Observed Survey Proportion at Age for Survey ",
+     false},
+    {"PREDICTED PROPORTION AT AGE (YEAR,AGE) FOR SURVEY:", "Predicted Survey Proportion at Age for Survey ",
+     true},
+    {"PROPORTION RESIDUALS AT AGE (YEAR,AGE) FOR SURVEY:", "Proportion Residuals at Age for Survey ", false},
     {"STANDARDIZED PROPORTION RESIDUALS AT AGE (YEAR,AGE) FOR SURVEY:",
-     "Standardized Proportion Residuals at Age", false},
+     "Standardized Proportion Residuals at Age for Survey ", false},
 };
 
 void ReadSurveyAges(Grid& samples, Grid& proportions, int survey) {
   const RowList rows = SurveyRows(survey);
   if (!FindKey("AGE COMPOSITION INPUT SAMPLE SIZE"))
-    FailForSurvey("Age Composition Input Sample Size", survey);
+    FailForSurvey("Age Composition Input Sample Size for Survey ", survey);
   SkipLines(1);
   ReadDown(samples, 0, 2 * survey - 1, rows);
   if (!FindKey("AGE COMPOSITION ESTIMATED EFFECTIVE SAMPLE SIZE")) {
-    FailForSurvey("Age Composition Estimated Effective Sample Size", survey);
+    FailForSurvey("Age Composition Estimated Effective Sample Size for Survey ", survey);
   }
   ReadDown(samples, 0, 2 * survey, rows);
   int base = 4 * NYears * (survey - 1);
