@@ -55,6 +55,7 @@ TEST_F(Dimensions, years_keep_their_rows_and_new_years_are_empty) {
     for (const Grid* grid : YearGrids()) {
       SCOPED_TRACE(grid->FullName());
       ASSERT_EQ(grid->Rows(), row.last - row.first + 2);
+      EXPECT_NE(grid->TextMatrix(0, 1), "");
       for (int year = row.first; year <= row.last; ++year) {
         std::string expected = NumberText(year);
         for (int column = 1; column < grid->Cols(); ++column) {
@@ -193,6 +194,7 @@ TEST_F(Dimensions, counts_beyond_the_ages_are_reset_with_one_warning_for_each_gr
                 "Number of Ages to Estimate Survey Selectivity is Invalid|Resetting Value to 2"}));
   EXPECT_EQ(ColumnText(fishery, 1), "1|2|2");
   EXPECT_EQ(ColumnText(surveys, 1), "2|2");
+  EXPECT_EQ(frmInput->txtFishSelAge.Text(), "1");
 }
 
 TEST_F(Dimensions, handlers_rest_while_a_reader_fills_the_form) {
@@ -220,6 +222,7 @@ TEST_F(Dimensions, a_case_beyond_the_bound_of_a_table_is_refused_whole) {
     int refused;
   } rows[] = {{frmInput->cmbNFYear, 1},
               {frmInput->cmbNXYear, 32000},
+              {frmInput->cmbNXYear, 1},
               {frmInput->cmbNAges, 32000},
               {frmInput->cmbNIndex, 32000}};
   for (const auto& row : rows) {
@@ -233,7 +236,7 @@ TEST_F(Dimensions, a_case_beyond_the_bound_of_a_table_is_refused_whole) {
     EXPECT_EQ(row.combo.Text(), before);
   }
   EXPECT_EQ(RowText(frmInput->ORVFlexGrid(0), 10), "2004|2004.1");
-  EXPECT_TRUE(host.messages.empty());
+  EXPECT_EQ(host.TakeTexts(), std::vector<std::string>{"Resetting First Year to First Available Year"});
   Choose(frmInput->cmbNXYear, 2005);
   EXPECT_EQ(SurvAgeFit.Rows(), 11);
 }
