@@ -1,5 +1,6 @@
 #include "core/menu.h"
 
+#include "core/frmabout.h"
 #include "core/frmmain.h"
 #include "core/globals.h"
 #include "core/settings.h"
@@ -150,7 +151,7 @@ void frmMain_mnuViewPlotCollect_Click(int) {
   }
 }
 
-void frmMain_mnuHelpAbout_Click(int) { RefuseForNow("About Tarnvik"); }
+void frmMain_mnuHelpAbout_Click(int) { ShowFormModal(frmAboutTARNVIK); }
 
 void frmMain_mnuHelpUsing_Click(int) { TheHost().StartProgram("HH.EXE " + frmMain->HelpFile); }
 

@@ -1,5 +1,6 @@
 #include "core/settings.h"
 
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <system_error>
@@ -33,10 +34,18 @@ std::string UserSettingsPath() {
 #endif
 }
 
-// The program's folder has the first word: where it can be written, nothing else is ever read.
+bool CanBeWritten(const std::string& path) {
+  std::FILE* file = std::fopen(path.c_str(), "r+b");
+  if (file) std::fclose(file);
+  return file != nullptr;
+}
+
+// The file that the next write goes to, as far as it is there: a file in the program's folder that cannot be
+// written gives way to the user's own.
 std::string SettingsPathToRead() {
   const std::string own = InProgramFolder(kFileName);
-  return FileExists(own) ? own : UserSettingsPath();
+  const std::string users = UserSettingsPath();
+  return FileExists(own) && (CanBeWritten(own) || !FileExists(users)) ? own : users;
 }
 
 // The word behind the first one of a range line, and the one behind that.

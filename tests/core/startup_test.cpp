@@ -163,6 +163,15 @@ TEST_F(Startup, create_entirely_new_case_asks_only_when_a_file_is_open) {
   OutputFormsOpen = kFalse;
 }
 
+TEST_F(Startup, settings_go_to_the_user_where_the_programs_folder_cannot_be_written) {
+  std::filesystem::create_directory("TARNVIK.CFG");  // stands in the way of the file
+  frmMain->mnuOptionsExitPromptDisable.UserClick();
+  EXPECT_TRUE(host.TakeTexts().empty());
+  EXPECT_TRUE(FileExists("config/tarnvik/TARNVIK.CFG"));
+  Restart();
+  EXPECT_EQ(ExitPrompt, 0);
+}
+
 TEST_F(Startup, plots_want_scanned_results_and_the_manual_wants_its_file) {
   frmMain->mnuViewPlotCollect.SetEnabled(true);
   OutputFormsOpen = kTrue;

@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -96,6 +97,8 @@ void ProgramTest::SetUp() {
   ASSERT_NE(mkdtemp(pattern.data()), nullptr);
   folder = fs::canonical(pattern).string();
   ChangeFolder(folder);
+  // The settings of whoever runs the tests are none of theirs.
+  setenv("XDG_CONFIG_HOME", JoinPath(folder, "config").c_str(), 1);
   host.program_folder = folder;
   StartProgram(host);
 }
