@@ -2,8 +2,9 @@
 #ifdef _WIN32
 
 #define WIN32_LEAN_AND_MEAN
-#include <shellapi.h>
 #include <windows.h>
+
+#include <shellapi.h>  // wants what windows.h declares
 
 #include "platform/paths.h"
 #include "platform/process.h"

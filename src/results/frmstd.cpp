@@ -1,6 +1,7 @@
 #include "results/frmstd.h"
 
 #include "core/globals.h"
+#include "plots/plots.h"
 #include "results/frmoutput.h"
 #include "results/frmoutputdata.h"
 
@@ -66,9 +67,14 @@ void StdForm::Design() {
   Chart20.SetContainer(&SSTab1, kPageFPlot);
   DesignBands(*this, 1, cmdPlot19, SSTab1, kPageRecruitPlot);
   DesignBands(*this, 2, cmdPlot20, SSTab1, kPageFPlot);
+  cmdPlot19.OnClick = frmSTD_cmdPlot19_Click;
+  cmdPlot20.OnClick = frmSTD_cmdPlot20_Click;
 }
 
 void frmSTD_Form_Load() { frmSTD->SSTab1.SetTab(0); }
+
+void frmSTD_cmdPlot19_Click(int) { RefreshOutputPlots(); }
+void frmSTD_cmdPlot20_Click(int) { RefreshOutputPlots(); }
 
 void frmSTD_Form_Unload() {
   StdFileRead = kFalse;

@@ -50,5 +50,8 @@ inline FormOf<StdForm> frmSTD{"frmSTD"};
 void frmSTD_Form_Load();
 // Clears StdFileRead and ParFileRead.
 void frmSTD_Form_Unload();
+// Draw the chart of the page anew.
+void frmSTD_cmdPlot19_Click(int);
+void frmSTD_cmdPlot20_Click(int);
 
 }  // namespace tarnvik
