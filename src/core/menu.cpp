@@ -34,16 +34,6 @@ void UnloadOpenResults() {
   if (OutputFormsOpen != kFalse) UnloadResultForms();
 }
 
-// "Save As" of one file: its form must be valid first.
-void SaveIfValid(void (*validate)(), const char* refusal, void (*save_as)()) {
-  validate();
-  if (InputValid == kFalse) {
-    ShowMessage(refusal, Icon::Exclamation);
-  } else {
-    save_as();
-  }
-}
-
 void SetExitPrompt(bool enabled) {
   ExitPrompt = Flag(enabled);
   frmMain->mnuOptionsExitPromptEnable.SetChecked(enabled);
@@ -96,13 +86,11 @@ void frmMain_mnuFileSaveControlAs_Click(int) {
 }
 
 void frmMain_mnuFileSaveDataAs_Click(int) {
-  SaveIfValid(ValidateInputData, "Input Data File Not Saved\r\nPlease Correct Value Before Saving Input Data",
-              SaveDataFileAs);
+  if (InputDataPass()) SaveDataFileAs();
 }
 
 void frmMain_mnuFileSavePinAs_Click(int) {
-  SaveIfValid(ValidateParameters, "Input Parameters File Not Saved\r\nPlease Correct Value Before Saving",
-              SaveParameterFileAs);
+  if (ParametersPass()) SaveParameterFileAs();
 }
 
 void frmMain_mnuFileImportVPA_Click(int) { RefuseForNow("Import Data from a VPA Input File"); }

@@ -14,6 +14,10 @@ bool InputForm::CodeClicksRest() const { return LoadingForm == kTrue; }
 
 void InputForm::QueryUnload(bool& cancel, UnloadMode mode) { frmInput_Form_QueryUnload(cancel, mode); }
 
+FormLoading::FormLoading() { LoadingForm = kTrue; }
+
+FormLoading::~FormLoading() { LoadingForm = kFalse; }
+
 void ShowPath(Label& label, const std::string& path) {
   const bool none = IsNone(path);
   label.SetCaption(none ? kNoneSelected : path);

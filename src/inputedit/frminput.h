@@ -200,6 +200,15 @@ struct InputForm : Form {
 
 inline FormOf<InputForm> frmInput{"frmInput"};
 
+// Sets LoadingForm until the end of the block, which clears it whatever happens: clicks made by code rest.
+class FormLoading {
+ public:
+  FormLoading();
+  ~FormLoading();
+  FormLoading(const FormLoading&) = delete;
+  FormLoading& operator=(const FormLoading&) = delete;
+};
+
 // The empty form for the general parameter ranges: clears the dimensions, fills the lists of the General tab,
 // commits what they show, sizes the per-survey store and all grids, those of frmPin included, which is
 // loaded. Sets InputValid false. Clicks by code rest meanwhile; LoadingForm is false at the end, also when an

@@ -10,15 +10,6 @@ namespace tarnvik {
 
 namespace {
 
-// Clicks made by code rest until the end of the block, whatever happens in it.
-class FormLoading {
- public:
-  FormLoading() { LoadingForm = kTrue; }
-  ~FormLoading() { LoadingForm = kFalse; }
-  FormLoading(const FormLoading&) = delete;
-  FormLoading& operator=(const FormLoading&) = delete;
-};
-
 void ClearDimensions() {
   for (std::int16_t* dimension : {&NFYear, &NXYear, &NAges, &NSelPer, &NIndex, &NYears, &RecYr})
     *dimension = 0;

@@ -107,14 +107,6 @@ void frmInput_chkSurvSelNonParEst_Click(int) { ApplyEstimatePairs(frmInput->chkS
 
 namespace {
 
-// The height of a row that shows; 0 hides it.
-constexpr int kRowHeight = 300;
-
-// A flat-topped curve has no gamma: its row is hidden and keeps what it holds.
-void ShowLogGammaRow(Grid& parameters, bool flat_topped) {
-  if (parameters.Rows() > 1) parameters.SetRowHeight(1, flat_topped ? 0 : kRowHeight);
-}
-
 void EnableBoth(const ControlArray<OptionButton>& group, bool enabled) {
   group(0).SetEnabled(enabled);
   group(1).SetEnabled(enabled);
@@ -156,6 +148,11 @@ void UseOneCount() {
 }
 
 }  // namespace
+
+void ShowLogGammaRow(Grid& parameters, bool flat_topped) {
+  constexpr int kShownHeight = 300;
+  if (parameters.Rows() > 1) parameters.SetRowHeight(1, flat_topped ? 0 : kShownHeight);
+}
 
 void ApplyFishSelModel() {
   const bool parametric = frmInput->opFSelModel(0).Value();

@@ -2,6 +2,8 @@
 // grids and the frames of frmPin. Each rule runs in a click handler; a reader that sets a value runs it too.
 #pragma once
 
+#include "platform/grid.h"
+
 namespace tarnvik {
 
 void frmInput_chkEstimate_Click(int index);
@@ -32,6 +34,8 @@ void frmInput_txtFishSelAge_LostFocus(int);
 void ApplyFishSelModel();
 // Sets the survey frames of frmPin, hides or shows the log gamma row.
 void ApplySurvSelModel();
+// Hides the log gamma row of a grid of curve parameters, which keeps what it holds, or shows it.
+void ShowLogGammaRow(Grid& parameters, bool flat_topped);
 // The warning of a count of ages to estimate that is reset to NewNAges; fleet is "Fishery" or "Survey".
 void WarnOfAgeCount(const char* fleet);
 // Colour and clear frmPin grids 4, 7 and 6 by the counts of ages to estimate; an invalid count is reset with

@@ -13,8 +13,6 @@ namespace tarnvik {
 
 namespace {
 
-constexpr int kShownRowHeight = 300;
-
 bool Selected(const ComboBox& combo) { return combo.ListIndex() >= 0; }
 
 // SurveyLabel for the surveys in force, the bare number for those to come.
@@ -98,7 +96,7 @@ void UpdateFishParGrid() {
   grid.SetTextMatrix(3, 0, "log a50");
   for (int period = 1; period <= NewNSelPer; ++period)
     grid.SetTextMatrix(0, period, PeriodLabel(period, kWideGap));
-  grid.SetRowHeight(1, frmInput->opFishSelParametric(0).Value() ? 0 : kShownRowHeight);
+  ShowLogGammaRow(grid, frmInput->opFishSelParametric(0).Value());
 }
 
 void UpdateFishNonParGrid() {

@@ -9,6 +9,11 @@
 
 namespace tarnvik {
 
+void ShowGeneralTab() {
+  BringFormToFront(frmInput);
+  frmInput->SSTab1.SetTab(kTabGeneral);
+}
+
 void CloseInputPlots() {
   UnloadForm(frmPlotInput);
   frmMain->mnuDataPlotInput.SetEnabled(false);

@@ -37,6 +37,13 @@ void frmInput_cmdBrowseCTL_Click(int);
 void frmInput_cmdBrowse1_Click(int);
 void frmInput_cmdBrowse2_Click(int);
 
+// Validate one of the two forms and say that its file is not saved when there is a fault. True when there is
+// none.
+bool InputDataPass();
+bool ParametersPass();
+
+// Bring frmInput to the front with its first page: how the flows over the files end.
+void ShowGeneralTab();
 // For the flows that replace a file of the case: unload frmPlotInput and disable its menu entry.
 void CloseInputPlots();
 // Unload the result forms when any of OutputFormsOpen, StdFileRead, ParFileRead is true; disable

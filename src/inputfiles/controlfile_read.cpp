@@ -110,8 +110,7 @@ void OpenControlFile() {
     CtlFileOpen = kFalse;
     ReadControlFile();
   }
-  BringFormToFront(frmInput);
-  frmInput->SSTab1.SetTab(kTabGeneral);
+  ShowGeneralTab();
 }
 
 }  // namespace tarnvik

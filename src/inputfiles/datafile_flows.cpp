@@ -74,11 +74,6 @@ bool SettleParameters() {
   return true;
 }
 
-void ShowGeneralTab() {
-  BringFormToFront(frmInput);
-  frmInput->SSTab1.SetTab(kTabGeneral);
-}
-
 }  // namespace
 
 void SaveDataFileAs() {

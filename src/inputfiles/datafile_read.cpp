@@ -7,6 +7,7 @@
 #include "inputedit/dimensions.h"
 #include "inputedit/grids.h"
 #include "inputedit/surveys.h"
+#include "inputfiles/casefiles.h"
 #include "inputfiles/datafile.h"
 #include "inputfiles/file_version.h"
 #include "platform/host.h"
@@ -211,8 +212,7 @@ void FinishReading(InputForm& form) {
   DatFileOpen = kTrue;
   ShowPath(form.lblFile(1), DatFilePath);
   OfferCommands(form);
-  BringFormToFront(frmInput);
-  form.SSTab1.SetTab(kTabGeneral);
+  ShowGeneralTab();
   OutputFormsOpen = StdFileRead = ParFileRead = LoadingForm = kFalse;
 }
 

@@ -101,21 +101,13 @@ void BuildParameterGrids() {
 }
 
 void RebuildGrids() {
-  struct LoadingScope {
-    LoadingScope() { LoadingForm = kTrue; }
-    ~LoadingScope() { LoadingForm = kFalse; }
-  } loading;
+  const FormLoading loading;
   BuildAllInputGrids();
   constexpr int kLikelihood = 2, kAges = 5;
   LabelSurveys(kAges);
   LabelSurveys(kLikelihood);
   FillCpueAges();
   BuildParameterGrids();
-}
-
-void FrontGeneralTab() {
-  BringFormToFront(frmInput);
-  frmInput->SSTab1.SetTab(kTabGeneral);
 }
 
 }  // namespace
@@ -174,7 +166,7 @@ void NewDataFile() {
   frmMain->mnuWindow.SetEnabled(true);
   RestoreCombos(rec_year, ref_year);
   RebuildGrids();
-  FrontGeneralTab();
+  ShowGeneralTab();
 }
 
 void NewParameterFile() {
@@ -207,7 +199,7 @@ void NewCase() {
   frmMain->mnuFileCreateData.SetEnabled(true);
   frmInput->cmdBrowse1.SetEnabled(true);
   frmInput->cmdBrowse2.SetEnabled(true);
-  FrontGeneralTab();
+  ShowGeneralTab();
 }
 
 }  // namespace tarnvik

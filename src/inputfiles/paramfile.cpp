@@ -40,8 +40,7 @@ void OpenParameterFile() {
     PinFilePath = *name;
     ReadParameterFile();
   }
-  BringFormToFront(frmInput);
-  frmInput->SSTab1.SetTab(kTabGeneral);
+  ShowGeneralTab();
 }
 
 }  // namespace tarnvik

@@ -16,8 +16,6 @@
 
 namespace tarnvik {
 
-namespace {
-
 bool InputDataPass() {
   ValidateInputData();
   if (InputValid == kFalse) {
@@ -37,6 +35,8 @@ bool ParametersPass() {
   }
   return InputValid != kFalse;
 }
+
+namespace {
 
 // Runs one writer. FilesSaved is false again behind it: a model run needs to know about all three files.
 bool Written(void (*write)()) {
