@@ -19,6 +19,7 @@ class BenchHost : public Host {
   void ProcessEvents() override {}
   void SetPointer(Pointer) override {}
   void SetClipboard(std::string) override {}
+  void ExportChart(const Chart&, const std::string&) override {}
   std::int32_t CreateConsoleProcess(const std::string&) override { return 0; }
   void StartProgram(const std::string&) override {}
   int OpenDocument(const std::string&) override { return 33; }

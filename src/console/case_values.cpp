@@ -25,6 +25,8 @@ std::string PointerNumber() {
       return JsonNumber(0);
     case Pointer::Hourglass:
       return JsonNumber(11);
+    case Pointer::IndexInHand:
+      return JsonNumber(5);
   }
   return JsonNumber(0);
 }

@@ -149,6 +149,8 @@ void ConsoleHost::TellProcess(const std::string& command, int result) {
       {{"process", JsonObject({{"command", JsonText(command)}, {"result", JsonNumber(result)}})}}));
 }
 
+void ConsoleHost::ExportChart(const Chart&, const std::string&) { throw RunTimeError(kErrPathAccess); }
+
 std::int32_t ConsoleHost::CreateConsoleProcess(const std::string& command) {
   const std::int32_t result = RunConsoleProcess(command, PassToErrorStream);
   TellProcess(command, result);

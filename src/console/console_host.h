@@ -27,6 +27,7 @@ class ConsoleHost : public Host {
   void ProcessEvents() override {}      // commands come one by one
   void SetPointer(Pointer) override {}  // asked for, not shown
   void SetClipboard(std::string text) override { clipboard = std::move(text); }
+  void ExportChart(const Chart& chart, const std::string& path) override;
   std::int32_t CreateConsoleProcess(const std::string& command) override;
   void StartProgram(const std::string& command) override;
   int OpenDocument(const std::string& path) override;

@@ -5,7 +5,7 @@
 #include "inputedit/frminput.h"
 #include "inputfiles/datafile.h"
 #include "inputfiles/paramfile.h"
-#include "plots/plots.h"
+#include "plots/frmplotinput.h"
 
 namespace tarnvik {
 

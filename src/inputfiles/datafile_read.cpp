@@ -12,7 +12,7 @@
 #include "inputfiles/file_version.h"
 #include "platform/host.h"
 #include "platform/paths.h"
-#include "plots/plots.h"
+#include "plots/input_plots.h"
 
 namespace tarnvik {
 

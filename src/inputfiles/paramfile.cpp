@@ -6,7 +6,6 @@
 #include "inputedit/frmpin.h"
 #include "inputfiles/casefiles.h"
 #include "inputfiles/save_names.h"
-#include "plots/plots.h"
 
 namespace tarnvik {
 

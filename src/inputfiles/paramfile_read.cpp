@@ -15,7 +15,7 @@
 #include "inputfiles/file_version.h"
 #include "inputfiles/paramfile.h"
 #include "platform/host.h"
-#include "plots/plots.h"
+#include "plots/input_plots.h"
 
 namespace tarnvik {
 

@@ -1,11 +1,14 @@
 #include "platform/chart.h"
 
+#include "platform/host.h"
+
 namespace tarnvik {
 
 namespace {
 
 constexpr int kYValues = 1;
 constexpr int kXValues = 6;
+constexpr int kPictureForDocuments = 5;
 
 }  // namespace
 
@@ -40,6 +43,11 @@ void Chart::SetXValue(int series, int point, double x) { Point(series, point, &C
 ChartSeries& Chart::Series(int series) {
   if (series < 0 || static_cast<std::size_t>(series) >= series_.size()) throw RunTimeError(kErrSubscript);
   return series_[static_cast<std::size_t>(series)];
+}
+
+void Chart::Export(int kind, const std::string& path) const {
+  if (kind != kPictureForDocuments) throw RunTimeError(kErrInvalidProperty);
+  TheHost().ExportChart(*this, path);
 }
 
 void Chart::SetPointLabel(int point, std::string_view text) {

@@ -12,6 +12,7 @@ namespace tarnvik {
 class Form;
 class FormSlot;
 class Control;
+class Chart;
 
 inline constexpr const char* kLineBreak = "\r\n";
 
@@ -31,7 +32,7 @@ struct DateTime {
   int year, month, day, hour, minute;
 };
 
-enum class Pointer { Default, Hourglass };
+enum class Pointer { Default, Hourglass, IndexInHand };
 
 class Host {
  public:
@@ -47,6 +48,8 @@ class Host {
   virtual void ProcessEvents() = 0;
   virtual void SetPointer(Pointer pointer) = 0;
   virtual void SetClipboard(std::string text) = 0;
+  // Draws a chart into a picture file of 900 x 600, as it would stand on the screen. Raises 70, 75 or 76.
+  virtual void ExportChart(const Chart& chart, const std::string& path) = 0;
   // Runs a command line to its end; 0 when the process could not be started, else another number.
   virtual std::int32_t CreateConsoleProcess(const std::string& command) = 0;
   // Starts a command line and does not wait; raises a run-time error when it cannot be started.

@@ -1,7 +1,7 @@
 #include "results/frmstd.h"
 
 #include "core/globals.h"
-#include "plots/plots.h"
+#include "plots/output_plots.h"
 #include "results/frmoutput.h"
 #include "results/frmoutputdata.h"
 

@@ -6,7 +6,7 @@
 #include "inputedit/frminput.h"
 #include "platform/host.h"
 #include "platform/paths.h"
-#include "plots/plots.h"
+#include "plots/output_plots.h"
 #include "results/frmoutput.h"
 #include "results/frmoutputdata.h"
 #include "results/frmstd.h"

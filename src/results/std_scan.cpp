@@ -7,7 +7,7 @@
 #include "inputedit/frminput.h"
 #include "inputedit/frmpin.h"
 #include "platform/host.h"
-#include "plots/plots.h"
+#include "plots/output_plots.h"
 #include "results/frmoutputdata.h"
 #include "results/frmstd.h"
 #include "results/report_reader.h"

@@ -7,6 +7,8 @@
 #include <fstream>
 #include <sstream>
 
+#include "platform/chart.h"
+#include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/process.h"
 
@@ -66,6 +68,14 @@ void TestHost::ShowModal(FormSlot&) {
 std::int32_t TestHost::CreateConsoleProcess(const std::string& command) {
   commands.push_back(command);
   return process ? process(command) : RunConsoleProcess(command, nullptr);
+}
+
+void TestHost::ExportChart(const Chart& chart, const std::string& path) {
+  pictures.push_back(chart.FullName() + " " + chart.Titles[0]);
+  OutputFile file;
+  file.Open(path);
+  file.Print(pictures.back());
+  file.Close();
 }
 
 int TestHost::OpenDocument(const std::string& path) {

@@ -34,6 +34,7 @@ class TestHost : public Host {
   void ProcessEvents() override {}
   void SetPointer(Pointer) override {}
   void SetClipboard(std::string text) override { clipboard = std::move(text); }
+  void ExportChart(const Chart& chart, const std::string& path) override;
   std::int32_t CreateConsoleProcess(const std::string& command) override;
   void StartProgram(const std::string& command) override { started.push_back(command); }
   int OpenDocument(const std::string& path) override;
@@ -52,6 +53,7 @@ class TestHost : public Host {
   std::vector<ShownMessage> messages;
   std::vector<FileDialog> dialogs;
   std::vector<std::string> commands, started, opened, popped_up;
+  std::vector<std::string> pictures;  // "Chart4 Title" of each exported chart; the file holds the same text
   std::string clipboard;
 
   // The texts of the boxes shown since the last call, line breaks as "|".

@@ -1,4 +1,4 @@
-#include "plots/plots.h"
+#include "plots/input_plots.h"
 
 #include "core/globals.h"
 #include "platform/host.h"
@@ -9,7 +9,5 @@ void RefreshInputPlots() {
   if (DatFileOpen != kTrue || PinFileOpen != kTrue) return;
   TheHost().ProcessEvents();
 }
-
-void RefreshOutputPlots() {}
 
 }  // namespace tarnvik

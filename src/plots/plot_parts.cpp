@@ -1,0 +1,60 @@
+#include "plots/plot_parts.h"
+
+#include <algorithm>
+
+namespace tarnvik {
+
+namespace {
+
+constexpr int kXValues = 6;
+constexpr int kYValues = 1;
+constexpr double kMargin = 1.05;
+
+}  // namespace
+
+void YLimits::Take(double y) {
+  min = std::min(min, y);
+  TakeUpper(y);
+}
+
+void YLimits::TakeUpper(double y) { max = std::max(max, y); }
+
+void YLimits::AddMargin() {
+  min *= kMargin;
+  max *= kMargin;
+}
+
+void OpenPoints(Chart& chart, int series, int points) {
+  chart.OpenData(kXValues, series, points);
+  chart.OpenData(kYValues, series, points);
+}
+
+void ClosePoints(Chart& chart) {
+  chart.CloseData(kXValues);
+  chart.CloseData(kYValues);
+}
+
+void SetLimits(ChartAxis& axis, double min, double max) {
+  axis.Min = min;
+  axis.Max = max;
+}
+
+void ShowLegend(Chart& chart) {
+  chart.SerLegBoxVisible = true;
+  chart.LegendBoxDocked = kDockedRight;
+}
+
+void HideLegend(Chart& chart) { chart.SerLegBoxVisible = false; }
+
+void FinishChart(Chart& chart, int gallery, int marker_setting) {
+  chart.MarkerSetting = marker_setting;
+  chart.Gallery = gallery;
+  chart.ChartFinishFlag = true;
+}
+
+std::string SurveyItem(int survey) {
+  const std::string plain = "Survey " + std::to_string(survey);
+  return SurvTitle(survey) == plain ? plain : plain + ": " + SurvTitle(survey);
+}
+
+}  // namespace tarnvik
