@@ -15,6 +15,7 @@
 #include "modelrun/runmodel.h"
 #include "platform/host.h"
 #include "platform/paths.h"
+#include "plots/frmplotcollect.h"
 #include "results/frmviewopt.h"
 #include "results/scan.h"
 #include "results/viewers.h"
@@ -133,7 +134,7 @@ void frmMain_mnuViewLog_Click(int) { ViewLogFile(); }
 
 void frmMain_mnuViewPlotCollect_Click(int) {
   if (OutputFormsOpen == kTrue && (StdFileRead == kTrue || ParFileRead == kTrue)) {
-    RefuseForNow("Create Plot Collection");
+    ShowFormModal(frmPlotCollect);
   } else {
     ShowMessage("Please Scan In Model Results Before Proceding with Plot Collection", Icon::Exclamation);
   }
