@@ -1,0 +1,18 @@
+// Between the logic and its views: a user's act runs as one event, and the views of what it changed are
+// brought in line once, when it has ended.
+#pragma once
+
+#include <functional>
+
+namespace tarnvik {
+
+// Runs what a user's act sets off, then refreshes the views. An error that no routine has trapped is shown in
+// a message box; nothing is lost. An act on a control that the act before it has taken away must not get
+// here.
+void UserEvent(const std::function<void()>& act);
+
+// Brings every view of a changed control in line. The host does so too before a box or a modal form appears
+// and whenever the logic lets pending events run.
+void RefreshViews();
+
+}  // namespace tarnvik
