@@ -152,7 +152,7 @@ void ConsoleHost::TellProcess(const std::string& command, int result) {
 void ConsoleHost::ExportChart(const Chart&, const std::string&) { throw RunTimeError(kErrPathAccess); }
 
 std::int32_t ConsoleHost::CreateConsoleProcess(const std::string& command) {
-  const std::int32_t result = RunConsoleProcess(command, PassToErrorStream);
+  const std::int32_t result = RunConsoleProcess(command, {PassToErrorStream, nullptr});
   TellProcess(command, result);
   return result;
 }

@@ -9,6 +9,8 @@
 
 namespace tarnvik {
 
+std::function<void()> AfterEvent;
+
 namespace {
 
 struct Registry {
@@ -59,6 +61,7 @@ void RefreshViews() {
 void UserEvent(const std::function<void()>& act) {
   RunEvent(act);
   RefreshViews();
+  if (AfterEvent) AfterEvent();
 }
 
 }  // namespace tarnvik

@@ -87,7 +87,8 @@ void SaveAllWithRootName() {
   const auto name = AskSaveName({.save = true,
                                  .title = "Save All Input Files (.ctl, .dat, .pin) with a Common Root Name",
                                  .filter = "All Files (*.*)|*.*",
-                                 .default_extension = ""});
+                                 .default_extension = "",
+                                 .logic_asks_to_overwrite = true});
   if (!name) return;
   const std::string root = RootOf(*name);
   if (!MayReplace(root)) return;

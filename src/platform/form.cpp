@@ -84,7 +84,7 @@ void UnloadWithoutAsking(FormSlot& slot) {
       if (other->Record()->Shown) front_form = other;
     }
   }
-  if (record->Shown) TheHost().FormUnloaded(*record);
+  TheHost().FormUnloaded(*record);
   record->Shown = false;
   unloaded_records.push_back(std::move(slot.record_));
 }

@@ -23,9 +23,10 @@ enum class Answer : int { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
 struct FileDialog {
   bool save = false;
   std::string title;
-  std::string filter;                // "Control Files (*.ctl)|*.ctl"
-  std::string default_extension;     // without dot; "" for none
-  bool moves_current_folder = true;  // choosing a file makes its folder the current one
+  std::string filter;                    // "Control Files (*.ctl)|*.ctl"
+  std::string default_extension;         // without dot; "" for none
+  bool moves_current_folder = true;      // choosing a file makes its folder the current one
+  bool logic_asks_to_overwrite = false;  // else a dialog for saving asks before it gives an existing file
 };
 
 struct DateTime {
@@ -43,7 +44,7 @@ class Host {
   virtual std::optional<std::string> ShowFileDialog(const FileDialog& dialog) = 0;
   virtual void BringToFront(Form& form) = 0;
   virtual void ShowModal(FormSlot& slot) = 0;  // returns when the form is no longer loaded
-  virtual void FormUnloaded(Form& form) = 0;   // its window goes; the record still exists
+  virtual void FormUnloaded(Form& form) = 0;   // its window, if any, goes; the record still exists
   virtual void PopUpMenu(Control& menu) = 0;   // a menu entry whose children are offered at the pointer
   virtual void ProcessEvents() = 0;
   virtual void SetPointer(Pointer pointer) = 0;

@@ -2,10 +2,12 @@
 #ifndef _WIN32
 
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <csignal>
 #include <cstring>
 
 #include "platform/paths.h"
@@ -39,13 +41,22 @@ int WaitForEnd(pid_t child) {
   return status;
 }
 
-void PassOn(int from, OutputSink sink) {
+// Passes on what the child writes until it closes its output or is ended.
+void Watch(pid_t child, int from, const ProcessWatch& watch) {
+  constexpr int kTenthOfSecond = 100;
   char piece[4096];
   while (true) {
+    if (watch.stop && watch.stop()) {
+      kill(child, SIGKILL);
+      return;
+    }
+    pollfd ready{from, POLLIN, 0};
+    const int polled = poll(&ready, 1, watch.stop ? kTenthOfSecond : -1);
+    if (polled == 0 || (polled < 0 && errno == EINTR)) continue;
     const auto got = read(from, piece, sizeof piece);
     if (got < 0 && errno == EINTR) continue;
     if (got <= 0) return;
-    if (sink) sink(std::string_view(piece, static_cast<std::size_t>(got)));
+    if (watch.output) watch.output(std::string_view(piece, static_cast<std::size_t>(got)));
   }
 }
 
@@ -56,7 +67,7 @@ bool IsExecutable(const std::string& program) {
 
 }  // namespace
 
-std::int32_t RunConsoleProcess(const std::string& command, OutputSink sink) {
+std::int32_t RunConsoleProcess(const std::string& command, const ProcessWatch& watch) {
   CommandLine line = TakeApart(command);
   if (line.words.empty()) return 0;
   if (const std::string existing = ExistingPath(line.words[0]); !existing.empty()) line.words[0] = existing;
@@ -86,7 +97,7 @@ std::int32_t RunConsoleProcess(const std::string& command, OutputSink sink) {
     Become(line.words);
   }
   close(channel[1]);
-  PassOn(channel[0], sink);
+  Watch(child, channel[0], watch);
   close(channel[0]);
   WaitForEnd(child);
   return 1;

@@ -12,7 +12,33 @@
 
 namespace tarnvik {
 
-std::int32_t RunConsoleProcess(const std::string& command, OutputSink sink) {
+namespace {
+
+// Passes on what the process writes until it closes its output or is ended.
+void Watch(HANDLE process, HANDLE from, const ProcessWatch& watch) {
+  constexpr DWORD kTenthOfSecond = 100;
+  char piece[4096];
+  while (true) {
+    if (watch.stop && watch.stop()) {
+      TerminateProcess(process, 1);
+      return;
+    }
+    DWORD waiting = 0;
+    if (!PeekNamedPipe(from, nullptr, 0, nullptr, &waiting, nullptr)) return;
+    if (waiting == 0) {
+      // A process that has ended may have written its last words between the two looks.
+      if (WaitForSingleObject(process, kTenthOfSecond) != WAIT_OBJECT_0) continue;
+      if (!PeekNamedPipe(from, nullptr, 0, nullptr, &waiting, nullptr) || waiting == 0) return;
+    }
+    DWORD got = 0;
+    if (!ReadFile(from, piece, sizeof piece, &got, nullptr) || got == 0) return;
+    if (watch.output) watch.output(std::string_view(piece, got));
+  }
+}
+
+}  // namespace
+
+std::int32_t RunConsoleProcess(const std::string& command, const ProcessWatch& watch) {
   SECURITY_ATTRIBUTES inherit{sizeof inherit, nullptr, TRUE};
   HANDLE out_read = nullptr;
   HANDLE out_write = nullptr;
@@ -29,11 +55,7 @@ std::int32_t RunConsoleProcess(const std::string& command, OutputSink sink) {
                                       nullptr, &start, &process);
   CloseHandle(out_write);
   if (created) {
-    char piece[4096];
-    DWORD got = 0;
-    while (ReadFile(out_read, piece, sizeof piece, &got, nullptr) && got > 0) {
-      if (sink) sink(std::string_view(piece, got));
-    }
+    Watch(process.hProcess, out_read, watch);
     WaitForSingleObject(process.hProcess, INFINITE);
     CloseHandle(process.hProcess);
     CloseHandle(process.hThread);

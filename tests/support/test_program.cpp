@@ -67,7 +67,7 @@ void TestHost::ShowModal(FormSlot&) {
 
 std::int32_t TestHost::CreateConsoleProcess(const std::string& command) {
   commands.push_back(command);
-  return process ? process(command) : RunConsoleProcess(command, nullptr);
+  return process ? process(command) : RunConsoleProcess(command);
 }
 
 void TestHost::ExportChart(const Chart& chart, const std::string& path) {
