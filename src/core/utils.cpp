@@ -70,6 +70,11 @@ std::string DefaultRootName() {
   return name;
 }
 
+std::string PresentDate() {
+  const DateTime now = TheHost().Now();
+  return std::to_string(now.month) + '/' + std::to_string(now.day) + '/' + std::to_string(now.year);
+}
+
 std::int16_t CurrentYear() { return Int16(TheHost().Now().year); }
 
 std::string InProgramFolder(std::string_view name) { return JoinPath(TheHost().ProgramFolder(), name); }

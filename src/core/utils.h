@@ -36,6 +36,7 @@ std::string LogPathOf(std::string_view control_path);
 // "TARNVIK" and month, day, year, hour and minute of now, two digits each: the root of default file names.
 std::string DefaultRootName();
 std::int16_t CurrentYear();
+std::string PresentDate();  // "11/16/2026": month, day, year
 // A name in the program's own folder.
 std::string InProgramFolder(std::string_view name);
 // -1 when A was last written at the same time as B or later, else 0. Both must exist.

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <system_error>
+#include <vector>
 
 #include "platform/runtime_error.h"
 
@@ -138,6 +139,29 @@ void DeleteExistingFile(const std::string& path) {
   std::error_code error;
   fs::remove(existing, error);
   if (error) RaiseFor(error);
+}
+
+void DeleteFilesEndingIn(const std::string& folder, std::string_view ending) {
+  // Listed first: what deleting does to a listing under way differs between systems.
+  std::vector<fs::path> files;
+  std::error_code error;
+  fs::directory_iterator entry(folder, error);
+  for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
+    const std::string name = entry->path().filename().string();
+    const bool matches = name.size() >= ending.size() &&
+                         SameIgnoringCase(std::string_view(name).substr(name.size() - ending.size()), ending);
+    if (matches && !fs::is_directory(entry->symlink_status())) files.push_back(entry->path());
+  }
+  for (std::size_t i = 0; !error && i < files.size(); ++i) fs::remove(files[i], error);
+  if (error) RaiseFor(error);
+}
+
+void CreateFolder(const std::string& folder) {
+  std::error_code error;
+  fs::create_directory(folder, error);
+  if (error == std::errc::no_such_file_or_directory) throw RunTimeError(kErrPathNotFound);
+  if (error) RaiseFor(error);
+  if (!FolderExists(folder)) throw RunTimeError(kErrPathAccess);
 }
 
 }  // namespace tarnvik

@@ -40,5 +40,10 @@ bool WrittenNotBefore(const std::string& a, const std::string& b);
 void CopyFileKeepingTime(const std::string& from, const std::string& to);
 // Raises 53 or 70.
 void DeleteExistingFile(const std::string& path);
+// Deletes the files, not the folders, whose names end in a text such as ".mtf", ignoring case. Raises 70
+// or 75.
+void DeleteFilesEndingIn(const std::string& folder, std::string_view ending);
+// Raises 61, 70, 75 or 76.
+void CreateFolder(const std::string& folder);
 
 }  // namespace tarnvik

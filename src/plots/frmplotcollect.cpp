@@ -1,12 +1,12 @@
 #include "plots/frmplotcollect.h"
 
-#include <algorithm>
 #include <string>
 
 #include "core/globals.h"
 #include "core/text.h"
 #include "platform/host.h"
 #include "plots/plot_collection.h"
+#include "plots/plot_parts.h"
 #include "results/frmoutput.h"
 #include "results/result_tables.h"
 
@@ -111,17 +111,9 @@ namespace {
 
 // Years of which the fishery's table of ages shows at least one observed share.
 int CountYearsObserved() {
-  const Grid& shares = ResultTable(3);
-  const int rows = std::min<int>(NYears, shares.Rows() - 1);
-  const int cols = std::min<int>(NAges + 2, shares.Cols());
   int years = 0;
-  for (int row = 1; row <= rows; ++row) {
-    bool observed = false;
-    for (int col = 2; col < cols; ++col) {
-      const std::string& share = shares.TextMatrix(row, col);
-      observed = observed || (share != kNotAvailable && Val(share) > 0);
-    }
-    if (observed) ++years;
+  for (int row = 1; row <= NYears; ++row) {
+    if (HasObservedShare(ResultTable(3), row, 2)) ++years;
   }
   return years;
 }

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "core/text.h"
+
 namespace tarnvik {
 
 namespace {
@@ -50,6 +52,16 @@ void FinishChart(Chart& chart, int gallery, int marker_setting) {
   chart.MarkerSetting = marker_setting;
   chart.Gallery = gallery;
   chart.ChartFinishFlag = true;
+}
+
+bool HasObservedShare(const Grid& shares, int row, int first_age_col) {
+  if (row >= shares.Rows()) return false;
+  const int end = std::min(first_age_col + NAges, shares.Cols());
+  for (int col = first_age_col; col < end; ++col) {
+    const std::string& share = shares.TextMatrix(row, col);
+    if (share != kNotAvailable && Val(share) > 0) return true;
+  }
+  return false;
 }
 
 std::string SurveyItem(int survey) {

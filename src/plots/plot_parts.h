@@ -9,6 +9,7 @@
 
 #include "core/globals.h"
 #include "platform/chart.h"
+#include "platform/grid.h"
 
 namespace tarnvik {
 
@@ -48,6 +49,10 @@ void ShowLegend(Chart& chart);
 void HideLegend(Chart& chart);
 // The last step of a drawing.
 void FinishChart(Chart& chart, int gallery, int marker_setting);
+
+// Whether a row of a table of proportions at age has a share that was observed: at least one cell from a
+// column on, of as many as there are ages, that is not "N/A" and above 0. A row beyond the table has none.
+bool HasObservedShare(const Grid& shares, int row, int first_age_col);
 
 // The name of a survey (from 1) in lists and titles: "Survey 2", or "Survey 2: Title" where it has a title of
 // its own.
