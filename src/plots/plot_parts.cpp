@@ -15,9 +15,11 @@ constexpr double kMargin = 1.05;
 }  // namespace
 
 void YLimits::Take(double y) {
-  min = std::min(min, y);
+  TakeLower(y);
   TakeUpper(y);
 }
+
+void YLimits::TakeLower(double y) { min = std::min(min, y); }
 
 void YLimits::TakeUpper(double y) { max = std::max(max, y); }
 

@@ -25,6 +25,7 @@ struct YLimits {
   double min = 0;
   double max = 0;
   void Take(double y);       // widens both limits
+  void TakeLower(double y);  // widens the lower limit alone
   void TakeUpper(double y);  // widens the upper limit alone
   void AddMargin();          // 5 % more on both sides
 };

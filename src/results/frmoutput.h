@@ -44,6 +44,7 @@ struct OutputForm : Form {
 
   // Numbers at age: up to five years in one chart
   Chart Chart1{this, "Chart1"};
+  Frame FramePlot1{this, "FramePlot1"};  // around the list of the same number, here and below
   ComboBox cboPlot1{this, "cboPlot1"};
   ControlArray<Label> lblPlot1{this, "lblPlot1", {0, 1, 2, 3, 4}};
   CommandButton cmdPlot1{this, "cmdPlot1"};
@@ -57,22 +58,27 @@ struct OutputForm : Form {
   ControlArray<OptionButton> Option27{this, "Option27", {0, 1, 2, 3}};
   // Survey index
   Chart Chart3{this, "Chart3"};
+  Frame FramePlot3{this, "FramePlot3"};
   ComboBox cboPlot3{this, "cboPlot3"};
   ControlArray<OptionButton> Option3a{this, "Option3a", {0, 1, 2, 3}};
   // Fishery proportions at age by year
   Chart Chart4{this, "Chart4"};
+  Frame FramePlot4{this, "FramePlot4"};
   ComboBox cboPlot4{this, "cboPlot4"};
   CheckBox Check4{this, "Check4"};
   ControlArray<OptionButton> Option4{this, "Option4", {0, 1, 2}};
   // Survey proportions at age by survey and year
   Chart Chart5{this, "Chart5"};
+  Frame FramePlot5a{this, "FramePlot5a"};
   ComboBox cboPlot5a{this, "cboPlot5a"};
+  Frame FramePlot5b{this, "FramePlot5b"};
   ComboBox cboPlot5b{this, "cboPlot5b"};
   CheckBox Check5{this, "Check5"};
   ControlArray<OptionButton> Option5{this, "Option5", {0, 1, 2}};
   // Sample sizes
   Chart Chart17{this, "Chart17"};
   Chart Chart18{this, "Chart18"};
+  Frame FramePlot18{this, "FramePlot18"};
   ComboBox cboPlot18{this, "cboPlot18"};
   // Recruits, surplus production, catch
   Chart Chart9{this, "Chart9"};
@@ -98,6 +104,7 @@ struct OutputForm : Form {
   ControlArray<OptionButton> Option8{this, "Option8", {0, 1, 2}};
   // Fishing mortality
   Chart Chart2{this, "Chart2"};
+  Frame FramePlot2{this, "FramePlot2"};
   ComboBox cboPlot2{this, "cboPlot2"};
   Chart Chart12{this, "Chart12"};
   ControlArray<OptionButton> Option12{this, "Option12", {0, 1}};
@@ -109,8 +116,10 @@ struct OutputForm : Form {
   // Selectivity
   Chart Chart13{this, "Chart13"};
   ControlArray<OptionButton> Option13{this, "Option13", {0, 1}};
+  ControlArray<Frame> FramePlot13{this, "FramePlot13", {0, 1}};
   ControlArray<ComboBox> cboPlot13{this, "cboPlot13", {0, 1}};  // periods, years
   Chart Chart14{this, "Chart14"};
+  Frame FramePlot14{this, "FramePlot14"};
   ComboBox cboPlot14{this, "cboPlot14"};
   // Likelihood components
   Chart Chart16{this, "Chart16"};
@@ -125,7 +134,8 @@ struct OutputForm : Form {
   ControlArray<TextBox> txtSTDminus{this, "txtSTDminus", {0, 3, 4, 5, 6, 7, 8}};
 
  private:
-  void Design();  // captions, pages, containers, and the first option of each group set
+  void Design();        // captions, pages, containers, and the first option of each group set
+  void BindHandlers();  // which procedure each event of a control runs
 };
 
 inline FormOf<OutputForm> frmOutput{"frmOutput"};

@@ -204,9 +204,10 @@ void ScanStdFile() {
     File1.Close();
     SetMousePointer(Pointer::Default);
     BringFormToFront(frmOutputData);
+    // The plots of the deviations draw only when the flag stands.
+    StdFileRead = kTrue;
     RefreshOutputPlots();
     frmOutputData->SSTab1.SetTab(0);
-    StdFileRead = kTrue;
   } catch (...) {
     const std::string error = CurrentErrorText();
     File1.Close();
