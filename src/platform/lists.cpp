@@ -71,6 +71,14 @@ void ListBox::Check(int item) const {
   if (item < 0 || item >= ListCount()) throw RunTimeError(kErrInvalidProperty);
 }
 
+void ListBox::InsertItem(int item, std::string_view text) {
+  if (item != ListCount()) Check(item);
+  items_.emplace(items_.begin() + item, text);
+  selected_.insert(selected_.begin() + item, 0);
+  if (list_index_ >= item) ++list_index_;
+  MarkChanged();
+}
+
 void ListBox::RemoveItem(int item) {
   Check(item);
   items_.erase(items_.begin() + item);

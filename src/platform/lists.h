@@ -21,7 +21,8 @@ class ListControl : public Control {
   // same. Raises 380 "Invalid property value" outside the list; nothing has changed then.
   void SetListIndex(int item);
   void UserSelect(int item);  // by the user; the same, but the handler is always reached
-  void UserPoint(int item);   // by the user, with the mouse button still held: no click yet
+  // By the user, with the mouse button still held, or by code: no click comes of it.
+  void UserPoint(int item);
 
  protected:
   ListControl(Form* owner, ControlKind kind, std::string name, int index)
@@ -49,6 +50,7 @@ class ListBox : public ListControl {
       : ListControl(owner, ControlKind::ListBox, std::move(name), index) {}
   void Clear();
   void AddItem(std::string_view text, bool selected = false);
+  void InsertItem(int item, std::string_view text);  // before that entry, at the end for ListCount()
   void RemoveItem(int item);
   bool Selected(int item) const;              // raises 380 outside the list
   void SetSelected(int item, bool selected);  // by code: runs the click handler like a click
