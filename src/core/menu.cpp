@@ -19,6 +19,7 @@
 #include "results/frmviewopt.h"
 #include "results/scan.h"
 #include "results/viewers.h"
+#include "vpaimport/vpa_import.h"
 
 namespace tarnvik {
 
@@ -94,7 +95,7 @@ void frmMain_mnuFileSavePinAs_Click(int) {
   if (ParametersPass()) SaveParameterFileAs();
 }
 
-void frmMain_mnuFileImportVPA_Click(int) { RefuseForNow("Import Data from a VPA Input File"); }
+void frmMain_mnuFileImportVPA_Click(int) { ImportVpa(); }
 void frmMain_mnuFileExit_Click(int) { UnloadForm(frmMain); }
 void frmMain_mnuEditCopy_Click(int) { GridCopy(); }
 void frmMain_mnuEditSelect_Click(int) { GridSelectAll(); }
