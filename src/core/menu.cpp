@@ -16,6 +16,8 @@
 #include "platform/host.h"
 #include "platform/paths.h"
 #include "plots/frmplotcollect.h"
+#include "plots/frmplotinput.h"
+#include "plots/input_plots.h"
 #include "results/frmviewopt.h"
 #include "results/scan.h"
 #include "results/viewers.h"
@@ -111,7 +113,9 @@ void frmMain_mnuDataPlotInput_Click(int) {
     ShowMessage("Cannot Plot Input Data" + kBreak + "Please Correct Input Parameters Before Continuing");
     return;
   }
-  RefuseForNow("Plot Input Data and Parameter Values");
+  RefreshInputPlots();
+  frmPlotInput->SSTab1.SetTab(kInputFisheryAge);
+  ActivateForm(frmPlotInput);
 }
 
 void frmMain_mnuModelRun_Click(int) {

@@ -1,8 +1,10 @@
 #include "plots/plot_parts.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "core/text.h"
+#include "platform/runtime_error.h"
 
 namespace tarnvik {
 
@@ -14,6 +16,11 @@ constexpr double kMargin = 1.05;
 
 }  // namespace
 
+double Finite(double result) {
+  if (!std::isfinite(result)) throw RunTimeError(kErrOverflow);
+  return result;
+}
+
 void YLimits::Take(double y) {
   TakeLower(y);
   TakeUpper(y);
@@ -24,9 +31,11 @@ void YLimits::TakeLower(double y) { min = std::min(min, y); }
 void YLimits::TakeUpper(double y) { max = std::max(max, y); }
 
 void YLimits::AddMargin() {
-  min *= kMargin;
-  max *= kMargin;
+  min = Finite(min * kMargin);
+  AddUpperMargin();
 }
+
+void YLimits::AddUpperMargin() { max = Finite(max * kMargin); }
 
 void OpenPoints(Chart& chart, int series, int points) {
   chart.OpenData(kXValues, series, points);

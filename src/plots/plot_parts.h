@@ -20,6 +20,10 @@ inline constexpr int kMarkersByYear = 3;
 // The place of a legend box.
 inline constexpr int kDockedRight = 0x102;
 
+// The result of an arithmetic, if it is a number. Raises 6 "Overflow" for what a division by zero, a
+// logarithm of a number that is not positive or a result beyond the range leaves: such faults end a drawing.
+double Finite(double result);
+
 // The limits of the y axis. Both start at 0, so that 0 always lies on the axis.
 struct YLimits {
   double min = 0;
@@ -27,7 +31,8 @@ struct YLimits {
   void Take(double y);       // widens both limits
   void TakeLower(double y);  // widens the lower limit alone
   void TakeUpper(double y);  // widens the upper limit alone
-  void AddMargin();          // 5 % more on both sides
+  void AddMargin();          // 5 % more on both sides; raises 6 "Overflow" beyond the range of numbers
+  void AddUpperMargin();     // 5 % more on the upper side alone; the same
 };
 
 // Runs a drawing. An error of any kind ends it silently and sets PlotIndex to 0.
