@@ -5,6 +5,7 @@
 #include "console/targets.h"
 #include "console/words.h"
 #include "core/program.h"
+#include "core/text.h"
 #include "platform/paths.h"
 
 namespace tarnvik {
@@ -216,6 +217,19 @@ Outcome DoClose(ConsoleHost& host, const Words& words) {
 }
 
 Outcome DoExit(ConsoleHost& host, const Words&) { return DoMenu(host, {"menu", "mnuFileExit"}); }
+
+// --- Pictures
+
+Outcome DoDraw(ConsoleHost& host, const Words& words) {
+  const Chart& chart = Reach<Chart>(host, words[1]);
+  const std::string& file = words[2];
+  const std::string ending = LCase(file.substr(std::min(file.rfind('.'), file.size())));
+  if (ending != ".png" && ending != ".svg" && ending != ".pdf") {
+    StopWithError(file + " ends neither in .png nor in .svg or .pdf");
+  }
+  host.ExportChart(chart, file);
+  return Ok();
+}
 
 // --- Answers to come
 

@@ -34,6 +34,7 @@ Outcome DoActivate(ConsoleHost& host, const Words& words);
 Outcome DoClose(ConsoleHost& host, const Words& words);
 Outcome DoAnswer(ConsoleHost& host, const Words& words);
 Outcome DoFile(ConsoleHost& host, const Words& words);
+Outcome DoDraw(ConsoleHost& host, const Words& words);
 Outcome DoExit(ConsoleHost& host, const Words& words);
 
 }  // namespace tarnvik

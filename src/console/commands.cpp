@@ -46,7 +46,7 @@ const Command kCommands[] = {
     {"dump", "FORM", 1, 1, AskDump, "all controls of a loaded form with their properties"},
     {"forms", "", 0, 0, AskForms, "the loaded forms"},
     {"chart", "NAME", 1, 1, AskChart, "the plot model of a chart"},
-    {"draw", "NAME FILE", 2, 2, AskDraw, "the picture of a chart as PNG, SVG or PDF"},
+    {"draw", "NAME FILE", 2, 2, DoDraw, "the picture of a chart as PNG, SVG or PDF"},
     {"clipboard", "", 0, 0, AskClipboard, "the text on the clipboard"},
     {"exit", "", 0, 0, DoExit, "the menu entry Exit, then the end of the program"},
 };

@@ -6,6 +6,7 @@
 #include <span>
 
 #include "console/json_text.h"
+#include "console/renderer.h"
 #include "platform/form.h"
 #include "platform/paths.h"
 #include "platform/process.h"
@@ -149,7 +150,7 @@ void ConsoleHost::TellProcess(const std::string& command, int result) {
       {{"process", JsonObject({{"command", JsonText(command)}, {"result", JsonNumber(result)}})}}));
 }
 
-void ConsoleHost::ExportChart(const Chart&, const std::string&) { throw RunTimeError(kErrPathAccess); }
+void ConsoleHost::ExportChart(const Chart& chart, const std::string& path) { DrawWithRenderer(chart, path); }
 
 std::int32_t ConsoleHost::CreateConsoleProcess(const std::string& command) {
   const std::int32_t result = RunConsoleProcess(command, {PassToErrorStream, nullptr});

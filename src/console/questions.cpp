@@ -1,6 +1,7 @@
 #include "console/questions.h"
 
 #include "console/case_values.h"
+#include "console/chart_model.h"
 #include "console/properties.h"
 #include "console/targets.h"
 
@@ -45,15 +46,7 @@ Outcome AskForms(ConsoleHost&, const Words&) {
                          [&](int i) { return JsonText(forms[static_cast<std::size_t>(i)]->Name()); }));
 }
 
-Outcome AskChart(ConsoleHost&, const Words& words) {
-  LookUp<Chart>(words[1]);
-  StopWithError("charts are not built yet");
-}
-
-Outcome AskDraw(ConsoleHost&, const Words& words) {
-  LookUp<Chart>(words[1]);
-  StopWithError("charts are not built yet");
-}
+Outcome AskChart(ConsoleHost&, const Words& words) { return Value(ChartModel(LookUp<Chart>(words[1]))); }
 
 Outcome AskClipboard(ConsoleHost& host, const Words&) { return Value(JsonText(host.clipboard)); }
 

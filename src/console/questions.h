@@ -12,7 +12,6 @@ Outcome AskState(ConsoleHost& host, const Words& words);
 Outcome AskDump(ConsoleHost& host, const Words& words);
 Outcome AskForms(ConsoleHost& host, const Words& words);
 Outcome AskChart(ConsoleHost& host, const Words& words);
-Outcome AskDraw(ConsoleHost& host, const Words& words);
 Outcome AskClipboard(ConsoleHost& host, const Words& words);
 
 }  // namespace tarnvik

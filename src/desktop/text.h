@@ -7,7 +7,7 @@
 
 namespace tarnvik {
 
-// Bytes read as UTF-8, or as Windows-1252 where they are not valid UTF-8.
+// Bytes read as UTF-8; each byte that is not of valid UTF-8 stands for its character of Windows-1252.
 QString ShownText(std::string_view bytes);
 // What a user typed, as UTF-8.
 std::string TypedText(const QString& text);

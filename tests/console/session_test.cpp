@@ -1,6 +1,8 @@
 // The commands one by one, on forms of the test's own.
 #include "console/session.h"
 
+#include <cmath>
+
 #include "console/json_text.h"
 #include "core/globals.h"
 #include "platform/chart.h"
@@ -282,6 +284,64 @@ TEST_F(Console, dump_holds_every_control_with_its_properties) {
         R"("bar":{"Enabled":true,"Visible":true,"ToolTipText":"","Panel":["",""]}}})"}) {
     EXPECT_NE(dump.find(part), std::string::npos) << part << "\n" << dump;
   }
+}
+
+// --- Charts
+
+TEST_F(Console, chart_gives_the_plot_model) {
+  const char* const kEmptyAxis = R"({"min":null,"max":null,"title":"","decimals":null})";
+  const std::string empty =
+      std::string(R"({"titles":["",""],"gallery":null,"axisX":)") + kEmptyAxis + R"(,"axisY":)" + kEmptyAxis +
+      R"(,"legendBox":false,"markerSetting":null,"finished":false,"pointLabels":[],"series":[]})";
+  EXPECT_EQ(Run({"chart frmKinds.chart"}), Lines{Is(empty)});
+  Chart& chart = frmKinds->chart;
+  chart.OpenData(6, 2, 2);
+  chart.OpenData(1, 2, 2);
+  chart.SetXValue(0, 0, 1963);
+  chart.SetXValue(1, 1, 0.1);
+  chart.SetValue(0, 0, -1e20);
+  chart.SetValue(0, 1, Chart::Hidden);
+  chart.SetValue(1, 1, std::nan(""));
+  chart.Series(1).Legend = "\"a\"";
+  chart.Series(1).Gallery = 4;
+  chart.SetPointLabel(1, "\xe9");
+  chart.Titles[1] = "t";
+  chart.Gallery = 1;
+  chart.MarkerSetting = 3;
+  chart.ChartFinishFlag = chart.SerLegBoxVisible = true;
+  chart.AxisX.Min = 1963;
+  chart.AxisY.Max = 0.25;
+  chart.AxisY.Decimals = 0;
+  chart.AxisY.Title = "Log F";
+  EXPECT_EQ(
+      Run({"chart frmKinds.chart"}),
+      Lines{Is(R"({"titles":["","t"],"gallery":1,"axisX":{"min":1963,"max":null,"title":"","decimals":null},)"
+               R"("axisY":{"min":null,"max":0.25,"title":"Log F","decimals":0},"legendBox":true,)"
+               R"("markerSetting":3,"finished":true,"pointLabels":["","é"],"series":[)"
+               R"({"legend":"","gallery":null,"x":[1963,0],"y":[-1e+20,null]},)"
+               R"({"legend":"\"a\"","gallery":4,"x":[0,0.1],"y":[0,null]}]})")});
+}
+
+TEST_F(Console, draw_writes_a_picture_by_its_ending) {
+  Lines commands, expected;
+  for (const char* file : {"a.png", "b.SVG", "c.Pdf"}) {
+    commands.push_back(std::string("draw frmKinds.chart ") + file);
+    expected.push_back(kOk);
+  }
+  EXPECT_EQ(Run(commands), expected);
+  EXPECT_EQ(ReadBytes("a.png").substr(0, 8), "\x89PNG\r\n\x1a\n");
+  EXPECT_NE(ReadBytes("b.SVG").find("<svg"), std::string::npos);
+  EXPECT_EQ(ReadBytes("c.Pdf").substr(0, 5), "%PDF-");
+  Expect({
+      {"draw frmKinds.chart a.gif", {Error("a.gif ends neither in .png nor in .svg or .pdf")}},
+      {"draw frmKinds.chart png", {Error("png ends neither in .png nor in .svg or .pdf")}},
+      {"draw frmKinds.chart missing/a.png", {Error("Path not found")}},
+      {"draw frmKinds.grid a.png", {Error("frmKinds.grid is a grid, not a chart")}},
+      {"draw frmBox.chart a.png", {Refused("frmBox is not loaded")}},
+  });
+  frmKinds->chart.SetVisible(false);
+  Expect({{"draw frmKinds.chart d.png", {Refused("frmKinds.chart is hidden")}}});
+  EXPECT_FALSE(FileExistsAsWritten("d.png"));
 }
 
 // --- Modal forms

@@ -1,0 +1,27 @@
+// Everything of a chart but its series: titles, axes, legend box, and where they stand.
+#pragma once
+
+#include <QString>
+#include <string>
+#include <vector>
+
+#include "desktop/chart_scales.h"
+
+class QCPAxisRect;
+class QCPLegend;
+class QCustomPlot;
+
+namespace tarnvik {
+
+struct ChartFrame {
+  std::vector<QCPAxisRect*> panels;  // one; several side by side where horizontal bars are many
+  QCPLegend* legend = nullptr;       // null where the chart shows none
+};
+
+// Empties the plot and builds the frame of the chart in it, its axes with their ranges.
+ChartFrame BuildFrame(const Chart& chart, QCustomPlot& plot);
+
+// A text of the chart on one line, or on several of at most that many characters where it has blanks.
+QString WrappedText(const std::string& text, int most);
+
+}  // namespace tarnvik
