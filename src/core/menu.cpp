@@ -5,6 +5,7 @@
 #include "core/globals.h"
 #include "core/settings.h"
 #include "core/utils.h"
+#include "inputedit/frmeditgp.h"
 #include "inputedit/frminput.h"
 #include "inputedit/frmpin.h"
 #include "inputedit/validation.h"
@@ -128,7 +129,7 @@ void frmMain_mnuModelScan_Click(int) {
   ScanReportFile();
 }
 
-void frmMain_mnuOptionsGPEdit_Click(int) { RefuseForNow("General Parameter Ranges"); }
+void frmMain_mnuOptionsGPEdit_Click(int) { ShowFormModal(frmEditGP); }
 void frmMain_mnuOptionsFileView_Click(int) { ShowFormModal(frmViewOpt); }
 void frmMain_mnuOptionsExitPromptEnable_Click(int) { SetExitPrompt(true); }
 void frmMain_mnuOptionsExitPromptDisable_Click(int) { SetExitPrompt(false); }

@@ -2,6 +2,8 @@
 
 #include "inputfiles/datafile_read.h"
 
+#include <algorithm>
+
 #include "core/frmmain.h"
 #include "core/globals.h"
 #include "inputedit/dimensions.h"
@@ -81,8 +83,8 @@ void WidenYears(std::int16_t first, std::int16_t last) {
 void ReadYears(InputForm& form) {
   LineWords words(ReadDataLine());
   NewNFYear = ValInt(words.Next());
-  if (NewNFYear < GPYearMin) {
-    WidenYears(NewNFYear, GPYearMax);
+  if (NewNFYear < GPYearMin || NewNFYear > GPYearMax) {
+    WidenYears(std::min(NewNFYear, GPYearMin), std::max(NewNFYear, GPYearMax));
     form.cmbNFYear.FillNumbers(GPYearMin, GPYearMax);
     form.cmbNXYear.FillNumbers(GPYearMin, GPYearMax);
   }
