@@ -1,12 +1,13 @@
 #include "plots/output_lists.h"
 
-#include <cmath>
+#include <algorithm>
 #include <string>
 
 #include "core/globals.h"
 #include "core/text.h"
 #include "platform/host.h"
 #include "plots/drawing.h"
+#include "plots/frmplotcollect.h"
 #include "plots/output_handlers.h"
 #include "results/frmoutput.h"
 #include "results/result_tables.h"
@@ -94,14 +95,6 @@ struct AgeYears {
   int first_age;
 };
 
-bool Observed(const Grid& grid, int row, int first_age) {
-  for (int col = first_age; col < first_age + NAges; ++col) {
-    const std::string& text = grid.TextMatrix(row, col);
-    if (text != kNotAvailable && Val(text) > 0) return true;
-  }
-  return false;
-}
-
 AgeYears FisheryAgeYears() {
   return {frmOutput->cboPlot4, frmOutput->Check4.IsChecked(), ResultTable(3), 0, 2};
 }
@@ -116,7 +109,7 @@ bool PutYears(const AgeYears& years, int wanted) {
   bool SelectedYearKept = false;
   years.list.Clear();
   for (int i = 1; i <= NYears; ++i) {
-    if (years.observed_only && !Observed(years.grid, years.base + i, years.first_age)) continue;
+    if (years.observed_only && !HasObservedShare(years.grid, years.base + i, years.first_age)) continue;
     const int year = NFYear + i - 1;
     years.list.AddItem(std::to_string(year));
     if (year != wanted) continue;
@@ -127,8 +120,8 @@ bool PutYears(const AgeYears& years, int wanted) {
 }
 
 bool CollectionInProgress() {
-  const FormSlot* collection = FindForm("frmPlotCollect");
-  return collection && collection->Loaded() && collection->Record()->Shown;
+  const Form* collection = frmPlotCollect.Record();
+  return collection && collection->Shown;
 }
 
 // The same, for the year that the user sees; a year that goes makes way for the first one.
@@ -177,7 +170,7 @@ void RefillSurveyYears() {
     ClearChart(form.Chart5);
     const int survey = SelectedSurvey();
     PlotSeriesSel[2] = Int16(survey - 1);
-    int year = Int16(Val(form.cboPlot5b.Text()));
+    int year = ValInt(form.cboPlot5b.Text());
     if (year < NFYear || year > NXYear) year = NFYear;
     KeepYear(SurveyAgeYears(survey), year);
     if (PlotIndex <= form.cboPlot5b.ListCount() - 1) return form.cboPlot5b.SetListIndex(PlotIndex);
@@ -187,7 +180,5 @@ void RefillSurveyYears() {
     ClearChart(form.Chart5);
   });
 }
-
-bool FisheryYearObserved(int year) { return Observed(ResultTable(3), year, 2); }
 
 }  // namespace tarnvik

@@ -22,7 +22,4 @@ void FillSurveySelectivities();   // cboPlot14
 void RefillFisheryYears();
 void RefillSurveyYears();
 
-// Whether a year of the case, by its position from 1, has an observed proportion of the fishery.
-bool FisheryYearObserved(int year);
-
 }  // namespace tarnvik
