@@ -30,11 +30,6 @@ namespace {
 
 const std::string kBreak = kLineBreak;
 
-// Entries whose windows are not built yet say so instead of doing nothing.
-void RefuseForNow(const char* what) {
-  ShowMessage(std::string(what) + kBreak + "is Not Available in This Version", Icon::Information);
-}
-
 void UnloadOpenResults() {
   if (OutputFormsOpen != kFalse) UnloadResultForms();
 }
