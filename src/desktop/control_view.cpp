@@ -38,6 +38,7 @@ ControlView::~ControlView() { LetGo(); }
 
 void ControlView::LetGo() {
   if (!control_) return;
+  Leave();
   TheRegistry().views.erase(control_);
   control_ = nullptr;
 }

@@ -32,6 +32,10 @@ class ControlView {
   // The form goes.
   void LetGo();
 
+ protected:
+  // The last moment in which what the view points to in the control is there.
+  virtual void Leave() {}
+
  private:
   Control* control_;
 };

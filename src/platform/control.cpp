@@ -158,6 +158,7 @@ void TabStrip::SetTabEnabled(int tab, bool enabled) {
 
 void RichText::SetText(std::string text) {
   text_ = std::move(text);
+  ++edition_;
   sel_start_ = sel_length_ = 0;
   MarkChanged();
 }

@@ -269,11 +269,13 @@ class RichText : public Control {
   void SetText(std::string text);
   void Select(std::size_t start, std::size_t length);  // bytes; cut to the text
   std::string SelText() const { return text_.substr(sel_start_, sel_length_); }
+  int Edition() const { return edition_; }  // counts the texts set
   // The width at which lines wrap, in widths of the control.
   double RightMargin = 1.0;
 
  private:
   std::string text_;
+  int edition_ = 0;
   std::size_t sel_start_ = 0;
   std::size_t sel_length_ = 0;
 };

@@ -1,0 +1,34 @@
+// tarnvik-desktop [CASE.ctl]: the window program.
+#include <QApplication>
+#include <QFileInfo>
+#include <clocale>
+#include <cstdio>
+
+#include "core/program.h"
+#include "desktop/desktop_host.h"
+#include "desktop/main_window.h"
+#include "platform/process.h"
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  std::setlocale(LC_NUMERIC, "C");  // Qt has taken the user's; numbers in files are written one way
+  QApplication::setOrganizationName("Tarnvik");
+  QApplication::setApplicationName("Tarnvik");
+  const QStringList arguments = QApplication::arguments();
+  if (arguments.size() > 2) {
+    std::fputs("usage: tarnvik-desktop [CASE.ctl]\n", stderr);
+    return 2;
+  }
+
+  tarnvik::DesktopHost host(tarnvik::ExecutableFolder());
+  tarnvik::StartProgram(host);
+  int status = 0;
+  {
+    tarnvik::MainWindow window(host);
+    window.show();
+    if (arguments.size() == 2) window.OpenCase(QFileInfo(arguments[1]).absoluteFilePath());
+    if (tarnvik::ProgramRunning()) status = QApplication::exec();
+  }
+  tarnvik::EndProgram();
+  return status;
+}
