@@ -27,14 +27,13 @@ std::string Span(const ChartAxis& axis) {
   return NumberText(axis.Min.value()) + ".." + NumberText(axis.Max.value());
 }
 
-// "title / y axis / x axis / gallery markers count".
+// "title / y axis / x axis / gallery markers / first points".
 std::string Face(const Chart& chart) {
-  std::string y = Span(chart.AxisY);
-  if (!chart.AxisY.Title.empty()) y += " " + chart.AxisY.Title;
+  std::string y = Span(chart.AxisY) + " " + chart.AxisY.Title;
   if (chart.AxisY.Decimals) y += " (" + NumberText(*chart.AxisY.Decimals) + ")";
   return chart.Titles[0] + " / " + y + " / " + Span(chart.AxisX) + " " + chart.AxisX.Title + " / " +
-         NumberText(chart.Gallery.value()) + " " + NumberText(chart.MarkerSetting.value()) + " " +
-         NumberText(static_cast<int>(chart.AllSeries().at(0).Y.size()));
+         NumberText(chart.Gallery.value()) + " " + NumberText(chart.MarkerSetting.value()) + " / " +
+         Points(chart).substr(0, 15);
 }
 
 std::string Items(const ComboBox& list) {
@@ -49,53 +48,46 @@ using InputPlotsOfExample = ExampleCase;
 
 TEST_F(InputPlotsOfExample, every_page_is_drawn_when_both_files_are_read) {
   ASSERT_EQ(PlotInputOpen, kTrue);
+  // The example has one table of weights for all three uses.
+  InputGrid(4).SetTextMatrix(1, 1, "0.4");
+  InputGrid(14).SetTextMatrix(1, 1, "0.14");
   frmPin->frmParFishSel.SetVisible(false);
   frmPin->frmNonParFishSel1.SetVisible(true);
   RefreshInputPlots();
   const struct {
     Chart F::*chart;
-    const char* face;
-    const char* begins;
+    const char* face;  // behind "Input Data: "
   } rows[] = {
       {&F::Chart1,
-       "Input Data: Catch Biomass / 0..616814.88519 Catch Biomass (metric tons) (0) / 1963..2014 Year / 1 3 "
-       "52",
-       "1963:128102.1357 1964:130035.2741"},
-      {&F::Chart2, "Input Data: Fishery Proportion at Age for Year 1963 / 0..0.9337587 / 1..6 Age / 2 1 6",
-       "1:0.199985 2:0.643759"},
-      {&F::Chart3, "Input Data: Observed Fishery CPUE / 0..1.05 / 1963..2014 Year / 1 3 52", "1963:1 1964:1"},
+       "Catch Biomass / 0..616814.88519 Catch Biomass (metric tons) (0) / 1963..2014 Year / 1 3 / "
+       "1963:128102.135"},
+      {&F::Chart2,
+       "Fishery Proportion at Age for Year 1963 / 0..0.9337587  / 1..6 Age / 2 1 / 1:0.199985 2:0."},
+      {&F::Chart3, "Observed Fishery CPUE / 0..1.05  / 1963..2014 Year / 1 3 / 1963:1 1964:1 1"},
       {&F::Chart4,
-       "Input Data: Proportion at Age for Survey 1: IBTS_Q1_gam for Year 1983 / 0..0.8354451 / 1..6 Age / 2 "
-       "1 "
-       "6",
-       "1:0.179424 2:0.677378"},
+       "Proportion at Age for Survey 1: IBTS_Q1_gam for Year 1983 / 0..0.8354451  / 1..6 Age / 2 1 / "
+       "1:0.179424 2:0."},
       {&F::Chart5,
-       "Input Data: Biomass Index for Survey 1: IBTS_Q1_gam / 0..23913.843702 Biomass Index (kg / tow * "
-       "1000) "
-       "(0) / 1983..2014 Year / 1 3 32",
-       "1983:22775.08924 1984:17716.65484"},
-      {&F::Chart6, "Input Data: Catch Weight at Age for Year 1963 / 0..10.7513030415 / 1..6 Age / 1 1 6",
-       "1:0.314 2:0.809"},
-      {&F::Chart7, "Input Data: Stock Weight at Age for Year 1963 / 0..10.7513030415 / 1..6 Age / 1 1 6",
-       "1:0.314 2:0.809"},
-      {&F::Chart11, "Input Data: Spawning Weight at Age for Year 1963 / 0..10.7513030415 / 1..6 Age / 1 1 6",
-       "1:0.314 2:0.809"},
-      {&F::Chart8, "Input Data: Maturity at Age for Year 1963 / 0..1.05 / 1..6 Age / 1 1 6", "1:0.01 2:0.05"},
+       "Biomass Index for Survey 1: IBTS_Q1_gam / 0..23913.843702 Biomass Index (kg / tow * 1000) (0) / "
+       "1983..2014 Year / 1 3 / 1983:22775.0892"},
+      {&F::Chart6,
+       "Catch Weight at Age for Year 1963 / 0..10.7513030415  / 1..6 Age / 1 1 / 1:0.314 2:0.809"},
+      {&F::Chart7,
+       "Stock Weight at Age for Year 1963 / 0..10.7513030415  / 1..6 Age / 1 1 / 1:0.4 2:0.809 3"},
+      {&F::Chart11,
+       "Spawning Weight at Age for Year 1963 / 0..10.7513030415  / 1..6 Age / 1 1 / 1:0.14 2:0.809 "},
+      {&F::Chart8, "Maturity at Age for Year 1963 / 0..1.05  / 1..6 Age / 1 1 / 1:0.01 2:0.05 3"},
       {&F::Chart9,
-       "Input Data: Recruitment Deviations / 0..0.1 Log 1000's of Fish / 1958..2014 Year / 1 3 57",
-       "1958:0 1959:0"},
-      {&F::Chart10, "Input Data: Fishing Mortality Deviations / 0..0.1 Log F / 1963..2014 Year / 1 3 52",
-       "1963:0"},
+       "Recruitment Deviations / 0..0.1 Log 1000's of Fish / 1958..2014 Year / 1 3 / 1958:0 1959:0 1"},
+      {&F::Chart10, "Fishing Mortality Deviations / 0..0.1 Log F / 1963..2014 Year / 1 3 / 1963:0 1964:0 1"},
       {&F::Chart12,
-       "Input Data: Fishery Selectivity for Select. Period 1: 1963-1971 / 0..1.05 / 1..6 Age / 1 1 6",
-       "1:1 2:1"},
-      {&F::Chart13, "Input Data: Survey Selectivity for Survey 1: IBTS_Q1_gam / 0..1.05 / 1..5 Age / 1 1 5",
-       "1:1 2:1"},
+       "Fishery Selectivity for Select. Period 1: 1963-1971 / 0..1.05  / 1..6 Age / 1 1 / 1:1 2:1 3:1 4:1"},
+      {&F::Chart13,
+       "Survey Selectivity for Survey 1: IBTS_Q1_gam / 0..1.05  / 1..5 Age / 1 1 / 1:1 2:1 3:1 4:1"},
   };
   for (const auto& row : rows) {
     const Chart& chart = *frmPlotInput.*row.chart;
-    EXPECT_EQ(Face(chart), row.face);
-    EXPECT_EQ(Points(chart).rfind(row.begins, 0), 0u) << chart.Name() << " " << Points(chart);
+    EXPECT_EQ(Face(chart), std::string("Input Data: ") + row.face);
     EXPECT_TRUE(chart.ChartFinishFlag && !chart.SerLegBoxVisible) << chart.Name();
   }
   for (const Control* control : frmPlotInput->Controls()) {
@@ -110,15 +102,13 @@ TEST_F(InputPlotsOfExample, a_choice_redraws_its_chart_alone) {
   EXPECT_EQ(PlotSeriesSel[1], 2);
   EXPECT_EQ(Points(frmPlotInput->Chart4), "1:0.882418 2:0.082387 3:0.01896 4:0.016235 5:0 6:0");
   frmPlotInput->cboPlot4b.UserSelect(22);
-  EXPECT_EQ(
-      Face(frmPlotInput->Chart4),
-      "Input Data: Proportion at Age for Survey 2: IBTS_Q3_gam for Year 2014 / 0..0.9588285 / 1..6 Age / "
-      "2 1 6");
+  EXPECT_EQ(frmPlotInput->Chart4.Titles[0],
+            "Input Data: Proportion at Age for Survey 2: IBTS_Q3_gam for Year 2014");
   frmPlotInput->cboPlot5.UserSelect(1);
   EXPECT_EQ(Points(frmPlotInput->Chart5).rfind("1992:10810.713 ", 0), 0u);
   frmPlotInput->cboPlot6.UserSelect(51);
-  EXPECT_EQ(Face(frmPlotInput->Chart6),
-            "Input Data: Catch Weight at Age for Year 2014 / 0..8.31426236235 / 1..6 Age / 1 1 6");
+  EXPECT_EQ(frmPlotInput->Chart6.Titles[0], "Input Data: Catch Weight at Age for Year 2014");
+  EXPECT_EQ(Span(frmPlotInput->Chart6.AxisY), "0..8.31426236235");
   EXPECT_EQ(Points(frmPlotInput->Chart7).rfind("1:0.314 ", 0), 0u);
   frmPlotInput->cboPlot13.UserSelect(1);
   EXPECT_EQ(Points(frmPlotInput->Chart13), "1:1 2:1 3:1 4:1");
@@ -183,46 +173,39 @@ class InputPlots : public SmallCase {
 };
 
 TEST_F(InputPlots, cells_without_data_are_hidden_points) {
+  const struct {
+    const char* cells[3];
+    const char* shares;   // as an age composition: points, y axis, and whether the note shows
+    const char* weights;  // as weights, which may be negative
+  } rows[] = {
+      {{"", "   ", ""}, "1:- 2:- 3:- 0..2.1 note", "1:- 2:- 3:- 0..0 note"},
+      {{"0", "-0.5", "4"}, "1:0 2:- 3:4 0..4.2", "1:0 2:-0.5 3:4 -0.525..4.2"},
+      {{"-1", "-2", ""}, "1:- 2:- 3:- 0..2.1 note", "1:-1 2:-2 3:- -2.1..0"},
+      {{"N/A", "x", "nan"}, "1:0 2:0 3:0 0..2.1", "1:0 2:0 3:0 0..0"},
+      {{" 3 kg", "1e1", ".5"}, "1:3 2:10 3:0.5 0..10.5", "1:3 2:10 3:0.5 0..10.5"},
+      {{"1e308", "1", "1"}, "1:- 2:1 3:1 0..1.05e+308", "1:- 2:1 3:1 0..1.05e+308"},
+  };
+  const auto shown = [](const Chart& chart, const Label& note) {
+    return Points(chart) + " " + Span(chart.AxisY) + (note.Visible() ? " note" : "");
+  };
   Grid& age = frmInput->ORVFlexGrid(1);
   Grid& weight = frmInput->ORVFlexGrid(6);
   // Another year's share counts for the axis, another year's weight does not.
   age.SetTextMatrix(2, 3, "2");
   weight.SetTextMatrix(2, 1, "99");
-  const auto draw_age = [] { frmPlotInput->cboPlot2.SetListIndex(0); };
-  const auto draw_weight = [] { frmPlotInput->cboPlot6.SetListIndex(0); };
-  const struct {
-    const char* cells[3];
-    const char* shares;  // of an age composition: no negative values
-    const char* share_axis;
-    bool share_note;
-    const char* weights;
-    const char* weight_axis;
-    bool weight_note;
-  } rows[] = {
-      {{"", "   ", ""}, "1:- 2:- 3:-", "0..2.1", true, "1:- 2:- 3:-", "0..0", true},
-      {{"0", "-0.5", "4"}, "1:0 2:- 3:4", "0..4.2", false, "1:0 2:-0.5 3:4", "-0.525..4.2", false},
-      {{"-1", "-2", ""}, "1:- 2:- 3:-", "0..2.1", true, "1:-1 2:-2 3:-", "-2.1..0", false},
-      {{"N/A", "x", "nan"}, "1:0 2:0 3:0", "0..2.1", false, "1:0 2:0 3:0", "0..0", false},
-      {{" 3 kg", "1e1", ".5"}, "1:3 2:10 3:0.5", "0..10.5", false, "1:3 2:10 3:0.5", "0..10.5", false},
-      {{"1e308", "1", "1"}, "1:- 2:1 3:1", "0..1.05e+308", false, "1:- 2:1 3:1", "0..1.05e+308", false},
-  };
   for (const auto& row : rows) {
     for (int i = 0; i < 3; ++i) {
       age.SetTextMatrix(1, i + 3, row.cells[i]);
       weight.SetTextMatrix(1, i + 1, row.cells[i]);
     }
-    draw_age();
-    EXPECT_EQ(Points(frmPlotInput->Chart2), row.shares);
-    EXPECT_EQ(Span(frmPlotInput->Chart2.AxisY), row.share_axis) << row.shares;
-    EXPECT_EQ(frmPlotInput->lblFishNoData.Visible(), row.share_note) << row.shares;
-    draw_weight();
-    EXPECT_EQ(Points(frmPlotInput->Chart6), row.weights);
-    EXPECT_EQ(Span(frmPlotInput->Chart6.AxisY), row.weight_axis) << row.weights;
-    EXPECT_EQ(frmPlotInput->lblNoData6.Visible(), row.weight_note) << row.weights;
+    frmPlotInput->cboPlot2.UserSelect(0);
+    EXPECT_EQ(shown(frmPlotInput->Chart2, frmPlotInput->lblFishNoData), row.shares);
+    frmPlotInput->cboPlot6.UserSelect(0);
+    EXPECT_EQ(shown(frmPlotInput->Chart6, frmPlotInput->lblNoData6), row.weights);
   }
   // An axis beyond the range of numbers: the drawing ends, silently.
   weight.SetTextMatrix(1, 2, "1e999");
-  draw_weight();
+  frmPlotInput->cboPlot6.UserSelect(0);
   EXPECT_EQ(Points(frmPlotInput->Chart6), "");
   EXPECT_EQ(PlotIndex, 0);
 }
@@ -298,26 +281,23 @@ TEST_F(InputPlots, selectivity_is_drawn_for_as_many_ages_as_are_estimated) {
   EXPECT_EQ(frmPlotInput->frmPlot12.Caption(), "Select a Period to Plot");
   for (std::int16_t selected : PlotSeriesSel) EXPECT_EQ(selected, 0);
   const struct {
-    const char* ages;
-    int shown;
-  } rows[] = {{"3", 3},   {" 2 ", 2}, {"1.5", 2}, {"0.9", 0},  {"", 0},
+    const char* text;
+    std::size_t length;  // of "1:x 2:x 3:x"
+  } rows[] = {{"3", 14},  {" 2 ", 9}, {"1.5", 9}, {"0.9", 0},  {"", 0},
               {"3.1", 0}, {"x", 0},   {"-1", 0},  {"1e999", 0}};
   for (const auto& row : rows) {
-    frmPin->frmNonParFishSel1.SetVisible(true);
-    frmInput->ORVFlexGrid(11).SetTextMatrix(1, 1, row.ages);
-    frmInput->ORVFlexGrid(12).SetTextMatrix(1, 1, row.ages);
-    frmInput->txtFishSelAge.SetText(row.ages);
-    frmPlotInput->cboPlot12.UserSelect(0);
+    frmInput->ORVFlexGrid(11).SetTextMatrix(1, 1, row.text);
+    frmInput->ORVFlexGrid(12).SetTextMatrix(1, 1, row.text);
+    frmInput->txtFishSelAge.SetText(row.text);
+    for (const bool annual : {false, true}) {
+      frmPin->frmNonParFishSel1.SetVisible(!annual);
+      frmPin->frmNonParFishSel2.SetVisible(annual);
+      frmPlotInput->cboPlot12.UserSelect(0);
+      EXPECT_EQ(Points(frmPlotInput->Chart12),
+                std::string(annual ? "1:71 2:72 3:73" : "1:41 2:42 3:43", row.length));
+    }
     frmPlotInput->cboPlot13.UserSelect(0);
-    const auto expected = [&](const std::string& text) {
-      return row.shown == 0 ? "" : text.substr(0, static_cast<std::size_t>(row.shown) * 5 - 1);
-    };
-    EXPECT_EQ(Points(frmPlotInput->Chart12), expected("1:41 2:42 3:43")) << row.ages;
-    EXPECT_EQ(Points(frmPlotInput->Chart13), expected("1:61 2:62 3:63")) << row.ages;
-    frmPin->frmNonParFishSel1.SetVisible(false);
-    frmPin->frmNonParFishSel2.SetVisible(true);
-    frmPlotInput->cboPlot12.UserSelect(0);
-    EXPECT_EQ(Points(frmPlotInput->Chart12), expected("1:71 2:72 3:73")) << row.ages;
+    EXPECT_EQ(Points(frmPlotInput->Chart13), std::string("1:61 2:62 3:63", row.length)) << row.text;
     EXPECT_FALSE(frmPlotInput->lblNoData12.Visible());
   }
   frmInput->txtFishSelAge.SetText("3");
@@ -334,10 +314,8 @@ TEST_F(InputPlots, the_smallest_case_and_tables_of_no_size_are_borne) {
   Choose(frmInput->cmbNAges, 1);
   Choose(frmInput->cmbNIndex, 1);
   Open();
-  EXPECT_EQ(Points(frmPlotInput->Chart1), "1995:-");
-  EXPECT_EQ(Points(frmPlotInput->Chart4), "1:-");
-  EXPECT_EQ(Face(frmPlotInput->Chart2),
-            "Input Data: Fishery Proportion at Age for Year 1995 / 0..0 / 1..1 Age / 2 1 1");
+  EXPECT_EQ(Points(frmPlotInput->Chart1) + " " + Span(frmPlotInput->Chart1.AxisX), "1995:- 1995..1995");
+  EXPECT_EQ(Points(frmPlotInput->Chart4) + " " + Span(frmPlotInput->Chart4.AxisX), "1:- 1..1");
   // A survey beyond the years of the case, and tables without rows.
   SurvXYear(1) = 1999;
   SurvNYears(1) = 5;
