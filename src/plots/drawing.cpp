@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "core/text.h"
 
@@ -81,6 +82,14 @@ Points LabelYears(const Grid& grid) {
     years.push_back(IsHidden(year) ? 0 : std::nearbyint(year));
   }
   return years;
+}
+
+Drawing YearDrawing(std::string title, std::optional<int> y_decimals) {
+  return {.title = std::move(title), .x_title = "Year", .y_decimals = y_decimals, .x = YearsOfCase()};
+}
+
+Drawing AgeDrawing(std::string title) {
+  return {.title = std::move(title), .x_title = "Age", .markers = kMarkersByAge, .x = Ages()};
 }
 
 void ClearChart(Chart& chart) {

@@ -58,6 +58,10 @@ Points YearsOfCase();
 Points Ages();
 Points LabelYears(const Grid& grid);
 
+// What the plots by year and those by age have in common, with the x values of all years or all ages.
+Drawing YearDrawing(std::string title, std::optional<int> y_decimals = {});
+Drawing AgeDrawing(std::string title);
+
 // Takes all data and the legend out of a chart.
 void ClearChart(Chart& chart);
 // Puts a drawing into a chart that was cleared. The x axis runs from the lowest to the highest x, and has no

@@ -85,10 +85,6 @@ void DrawEstimates(Chart& chart, Drawing drawing, Estimates estimates, Levels le
   PutDrawing(chart, std::move(drawing));
 }
 
-Drawing YearDrawing(std::string title, std::optional<int> decimals = {}) {
-  return {.title = std::move(title), .x_title = "Year", .y_decimals = decimals};
-}
-
 // The standardized residuals that share a chart with the estimates.
 void DrawResiduals(Chart& chart, Drawing drawing, Points x, const Grid& grid, int col) {
   drawing.gallery = kBars;
@@ -209,11 +205,9 @@ void DrawEndNumbers() {
     const bool next_year = SelectedOption(form.Option23) == 1;
     const Grid& grid = ResultTable(0);
     const int row = next_year ? NYears + 1 : NYears;
-    Drawing drawing{.title = next_year ? "Numbers at Age (Thousands) in Last Year Plus One"
-                                       : "Numbers at Age (Thousands) in Last Year",
-                    .x_title = "Age",
-                    .y_decimals = 0,
-                    .markers = kMarkersByAge};
+    Drawing drawing = AgeDrawing(next_year ? "Numbers at Age (Thousands) in Last Year Plus One"
+                                           : "Numbers at Age (Thousands) in Last Year");
+    drawing.y_decimals = 0;
     DrawEstimates(form.Chart23, std::move(drawing),
                   {Ages(), PointsAcross(grid, row, 1, NAges), PointsAcross(grid, row + 2, 1, NAges)},
                   LevelsOf(form, 8), next_year ? "End+1 N" : "End N");

@@ -15,14 +15,6 @@ namespace tarnvik {
 
 namespace {
 
-Drawing AgeDrawing(std::string title) {
-  return {.title = std::move(title), .x_title = "Age", .markers = kMarkersByAge, .x = Ages()};
-}
-
-Drawing YearDrawing(std::string title) {
-  return {.title = std::move(title), .x_title = "Year", .x = YearsOfCase()};
-}
-
 // The one series of a drawing; the limits are those of its points.
 void PutCurve(Chart& chart, Drawing drawing, Points y) {
   drawing.series = {{"", std::move(y)}};
@@ -61,9 +53,8 @@ void DrawAgeF() {
     OutputForm& form = *frmOutput;
     ClearChart(form.Chart2);
     if (PlotIndex == 0) return;
-    Drawing drawing = YearDrawing("Estimated Fishing Mortality for Age " + std::to_string(PlotIndex));
-    drawing.y_decimals = 4;
-    PutCurve(form.Chart2, std::move(drawing), PointsDown(ResultTable(1), 1, PlotIndex, NYears));
+    PutCurve(form.Chart2, YearDrawing("Estimated Fishing Mortality for Age " + std::to_string(PlotIndex), 4),
+             PointsDown(ResultTable(1), 1, PlotIndex, NYears));
     PlotIndex = 0;
   });
 }
@@ -138,14 +129,12 @@ namespace {
 // Input and estimated sample sizes stand beside each other, from column col on.
 void DrawSampleSizes(Chart& chart, std::string title, const Grid& grid, int col) {
   const int rows = grid.Rows() - 1;
-  Drawing drawing{.title = std::move(title),
-                  .x_title = "Year",
-                  .y_title = "Sample Size",
-                  .y_decimals = 0,
-                  .legend = true,
-                  .x = LabelYears(grid),
-                  .series = {{"Input", PointsDown(grid, 1, col, rows)},
-                             {"Estimated", PointsDown(grid, 1, col + 1, rows)}}};
+  Drawing drawing = YearDrawing(std::move(title), 0);
+  drawing.y_title = "Sample Size";
+  drawing.legend = true;
+  drawing.x = LabelYears(grid);
+  drawing.series = {{"Input", PointsDown(grid, 1, col, rows)},
+                    {"Estimated", PointsDown(grid, 1, col + 1, rows)}};
   drawing.TakeLimits();
   PutDrawing(chart, std::move(drawing));
 }

@@ -41,21 +41,15 @@ void Hide(Drawing& drawing, bool (*without_data)(double y)) {
 bool IsNegative(double y) { return y < 0; }
 bool IsNoCatch(double y) { return y == kNoCatch; }
 
-// The settings that go with option k.
-Drawing FitDrawing(std::string title, int k) {
-  Drawing drawing;
-  drawing.title = std::move(title);
+// A drawing with the settings that go with option k.
+Drawing ForOption(int k, Drawing drawing) {
   drawing.gallery = k > 0 ? kBars : kLines;
   drawing.legend = k == 0;
   return drawing;
 }
 
 Drawing YearFitDrawing(std::string title, int k) {
-  Drawing drawing = FitDrawing(std::move(title), k);
-  drawing.x = YearsOfCase();
-  drawing.x_title = "Year";
-  drawing.y_decimals = k < 2 ? 0 : 2;
-  return drawing;
+  return ForOption(k, YearDrawing(std::move(title), k < 2 ? 0 : 2));
 }
 
 void DrawIndexFit(Chart& chart, const Grid& grid, int row, int col, int k, std::string title) {
@@ -139,15 +133,12 @@ void DrawAgeFit(const AgeFit& fit, std::string title) {
     if (fit.k > 0) return {{"", points(fit.k + 1, year)}};
     return ObservedAndPredicted(points(0, year), points(1, year));
   };
-  Drawing drawing = FitDrawing(std::move(title), fit.k);
+  Drawing drawing = ForOption(fit.k, AgeDrawing(std::move(title)));
   for (int year = NYears; year >= 0; --year) {
     drawing.series = series(year > 0 ? year : fit.year);
     if (fit.k == 0) Hide(drawing, IsNegative);
     drawing.TakeLimits();
   }
-  drawing.x = Ages();
-  drawing.x_title = "Age";
-  drawing.markers = kMarkersByAge;
   PutDrawing(fit.chart, std::move(drawing));
 }
 
