@@ -1,5 +1,8 @@
 #include "desktop/control_view.h"
 
+#include <QApplication>
+#include <QLineEdit>
+#include <QPointer>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -57,6 +60,13 @@ void RefreshViews() {
     }
   }
   registry.refreshing = false;
+}
+
+void CommitPendingEdits() {
+  const QPointer<QWidget> editing = QApplication::focusWidget();
+  if (!qobject_cast<QLineEdit*>(editing)) return;
+  editing->clearFocus();
+  if (editing && editing->isVisible() && !QApplication::focusWidget()) editing->setFocus();
 }
 
 void UserEvent(const std::function<void()>& act) {

@@ -3,12 +3,12 @@
 
 #include <QWidget>
 #include <memory>
-#include <vector>
 
-#include "desktop/control_view.h"
 #include "platform/form.h"
 
 namespace tarnvik {
+
+struct FormParts;
 
 class FormView : public QWidget {
  public:
@@ -21,12 +21,19 @@ class FormView : public QWidget {
   Form* Shown() const { return form_; }
   // The form goes: no view passes anything on any more.
   void LetGo();
-  // The widget of a control; null for controls without one.
+  // The widget of a control; null for controls without one. Builds the page on which it lies.
   QWidget* WidgetOf(const Control& control) const;
+
+  QSize sizeHint() const override;
+
+ protected:
+  // Enter and Escape press the button that is meant by them.
+  void keyPressEvent(QKeyEvent* event) override;
+  void changeEvent(QEvent* event) override;  // other colours
 
  private:
   Form* form_;
-  std::vector<std::unique_ptr<ControlView>> views_;
+  std::unique_ptr<FormParts> parts_;
 };
 
 }  // namespace tarnvik
