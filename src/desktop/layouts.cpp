@@ -148,6 +148,22 @@ const Arrangement kArrangements[] = {
     {"frmOutput", "FrameSTD(8)",
      "lblSTDlevels(8) lblSTDplus(8) txtSTDplus(8) lblSTDminus(8) txtSTDminus(8) cmdPlot23"},
 
+    // --- Input plots
+    {"frmPlotInput", "SSTab1 0", "frmPlot2 lblFishNoData > / Chart2"},
+    {"frmPlotInput", "SSTab1 1", "lblCPUENoData / Chart3"},
+    {"frmPlotInput", "SSTab1 2", "frmPlot4a frmPlot4b lblSurvNoData > / Chart4"},
+    {"frmPlotInput", "SSTab1 3", "frmPlot5 lblNoData5 > / Chart5"},
+    {"frmPlotInput", "SSTab1 4", "lblNoData1 / Chart1"},
+    {"frmPlotInput", "SSTab1 5", "frmPlot6 lblNoData6 > / Chart6"},
+    {"frmPlotInput", "SSTab1 6", "frmPlot7 lblNoData7 > / Chart7"},
+    {"frmPlotInput", "SSTab1 7", "frmPlot11 lblNoData11 > / Chart11"},
+    {"frmPlotInput", "SSTab1 8", "frmPlot8 lblNoData8 > / Chart8"},
+    {"frmPlotInput", "SSTab1 9", "lblMNoData / Chart14"},
+    {"frmPlotInput", "SSTab1 10", "lblNoData9 / Chart9"},
+    {"frmPlotInput", "SSTab1 11", "lblNoData10 / Chart10"},
+    {"frmPlotInput", "SSTab1 12", "frmPlot12 lblNoData12 > / Chart12"},
+    {"frmPlotInput", "SSTab1 13", "frmPlot13 lblNoData13 > / Chart13"},
+
     // --- Plot collection
     {"frmPlotCollect", "",
      "SSTab1 / cmdAll cmdDefault cmdNone > cmdGenerate cmdCancel"},
@@ -163,6 +179,9 @@ const Arrangement kArrangements[] = {
     {"frmViewOpt", "framView", "lblFile cmdBrowse"},
     {"frmFillNoData", "",
      "Label1 txtWhichGrid / lblExplain / 'No Data Value:' txtDataVal / lblNote / > cmdOK cmdCancel"},
+    {"frmEditGP", "",
+     "lblYr0 txtYr(0) / lblYr1 txtYr(1) chkAuto / lblAges txtAges / lblSurveys txtSurveys /"
+     "> cmdOK cmdCancel"},
     {"frmEditTextBox", "", "'Title:' Text1 / > cmdOK cmdCancel"},
     {"frmAboutTARNVIK", "", "lblTitle / lblVersion / lblDescription / lblLicence / > cmdOK"},
     {"frmVPAIndices", "",
@@ -216,7 +235,7 @@ const SizeRow kSizes[] = {
     {"frmInput", 1100, 680},     {"frmPin", 1000, 640},      {"frmOutputData", 1100, 680},
     {"frmSTD", 900, 640},        {"frmOutput", 1100, 680},   {"frmPlotInput", 1000, 640},
     {"frmPlotCollect", 620, 560}, {"frmView", 860, 600},     {"frmViewOpt", 520, 220},
-    {"frmFillNoData", 460, 240}, {"frmEditTextBox", 420, 110}, {"frmAboutTARNVIK", 400, 220},
+    {"frmEditGP", 480, 200}, {"frmFillNoData", 460, 240}, {"frmEditTextBox", 420, 110}, {"frmAboutTARNVIK", 400, 220},
     {"frmVPAIndices", 960, 600},
 };
 
