@@ -416,6 +416,12 @@ TEST_F(OutputPlots, survey_years_come_to_the_entry_behind_the_year_kept) {
   form.Check5.UserCheck(1);
   EXPECT_EQ(host.TakeTexts(), Texts{kPredictedOnly});
   EXPECT_EQ(Entries(form.cboPlot5b), "2002 *2003 ");
+  // A collection, which sets every entry by itself, is not held up.
+  frmPlotCollect->Shown = true;
+  form.Check5.UserCheck(0);
+  EXPECT_EQ(Drawn(5), "empty");
+  EXPECT_EQ(host.TakeTexts(), Texts());
+  form.Check5.UserCheck(1);
   form.cboPlot5a.UserSelect(0);
   EXPECT_EQ(Entries(form.cboPlot5b), "*2002 2003 ");
   EXPECT_NE(Drawn(5).find("Observed/4 1:0.44 2:0.34 3:0.22 |"), std::string::npos) << Drawn(5);
