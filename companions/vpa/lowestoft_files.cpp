@@ -220,9 +220,11 @@ void ReadPartOfYear(Fleet& fleet, TextFile& file) {
   }
 }
 
+bool IsMissing(std::string_view word) { return word == "NA" || word == "na"; }
+
 // A negative number or NA: missing.
 std::optional<double> ReadTuningValue(const TextFile& file, const Line& line, std::string_view word) {
-  if (word == "NA" || word == "na") return std::nullopt;
+  if (IsMissing(word)) return std::nullopt;
   const double value = ReadValue(file, line, word);
   return value < 0 ? std::nullopt : std::optional(value);
 }
@@ -231,7 +233,7 @@ std::optional<double> ReadTuningValue(const TextFile& file, const Line& line, st
 void ReadTuningRow(Fleet& fleet, const TextFile& file, const Line& line) {
   const auto words = Words(line.text);
   const std::size_t wanted = static_cast<std::size_t>(fleet.ages.Count()) + 1;
-  if (!words.empty() && words[0] != "NA" && words[0] != "na" && !ReadNumber(words[0]))
+  if (!IsMissing(words[0]) && !ReadNumber(words[0]) && std::isalpha(static_cast<unsigned char>(words[0][0])))
     throw Fault(
         file.name, line.number,
         NotANumber(words[0]) + "; fewer rows than the years " + Told(fleet.years) + " of the fleet above?");

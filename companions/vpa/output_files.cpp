@@ -32,9 +32,11 @@ void WriteUnfinished(const OutputFile& file) {
 // Moves what lies in the file's place aside, and the new file there.
 void TakePlace(const OutputFile& file) {
   std::error_code fault;
-  if (fs::is_directory(file.path))
+  if (fs::is_directory(file.path, fault))
     throw CannotWrite(file.path, std::make_error_code(std::errc::is_a_directory));
-  if (fs::exists(file.path)) fs::rename(file.path, Former(file), fault);
+  const bool has_former = fs::exists(file.path, fault);
+  fault.clear();
+  if (has_former) fs::rename(file.path, Former(file), fault);
   if (!fault) fs::rename(Unfinished(file), file.path, fault);
   if (fault) throw CannotWrite(file.path, fault);
 }
@@ -57,7 +59,7 @@ void WriteAllOrNone(const std::vector<OutputFile>& files) {
   try {
     for (const OutputFile& file : files) WriteUnfinished(file);
     for (; placed < files.size(); ++placed) TakePlace(files[placed]);
-  } catch (const Fault&) {
+  } catch (...) {
     PutBack(files, placed);
     throw;
   }

@@ -46,6 +46,15 @@ int Guarded(std::ostream& log, const Work& work) {
   return 1;
 }
 
+// Where the log cannot be written, the folder missing for example, the fault itself is still what the user
+// must know.
+void TellIn(const std::string& error_log, const Fault& fault) {
+  try {
+    WriteAllOrNone({{error_log, std::string(fault.what()) + "\r\n"}});
+  } catch (const Fault&) {
+  }
+}
+
 // Without tuning data there is no fleet, and the list says so.
 std::vector<Fleet> ReadFleetsIfAny(const IndexFile& index) {
   if (index.files[kTuning].path.empty()) return {};
@@ -69,7 +78,7 @@ int RunScanVpaSurvey(const std::vector<std::string>& arguments, std::ostream& pr
     } catch (const Fault& fault) {
       // A list of an earlier run would pass for one of these data.
       if (fs::is_regular_file(list, ignored)) fs::remove(list, ignored);
-      WriteAllOrNone({{error_log, std::string(fault.what()) + "\r\n"}});
+      TellIn(error_log, fault);
       throw;
     }
   });

@@ -21,13 +21,13 @@ std::vector<Index> IndicesOf(const SurveyGroup& group, const std::vector<Index>&
     if (stock.ages.Holds(index.age))
       used.push_back(index);
     else if (index.age == 0 && stock.age0_dropped)
-      notes.push_back(Named(index, place) + " is left out of survey " + group.title);
+      notes.push_back(Named(index, place) + " is left out of survey " + Quotable(group.title));
     else
       throw Fault(list_file, group.line,
                   Named(index, place) + " is not of the ages of the catch numbers, " + Told(stock.ages));
   }
   if (used.empty())
-    throw Fault(list_file, group.line, "survey " + group.title + " has no index of age 1 or older");
+    throw Fault(list_file, group.line, "survey " + Quotable(group.title) + " has no index of age 1 or older");
   return used;
 }
 
@@ -69,13 +69,13 @@ Survey MakeSurvey(const SurveyGroup& group, const std::vector<Index>& indices, c
   }
   survey.years = YearsWithAll(indices, stock);
   if (survey.years.Count() < 1)
-    throw Fault(
-        list_file, group.line,
-        "survey " + survey.title + ": in no year of " + Told(stock.years) + " have all its indices values");
+    throw Fault(list_file, group.line,
+                "survey " + Quotable(survey.title) + ": in no year of " + Told(stock.years) +
+                    " have all its indices values");
   for (int year = survey.years.first; year <= survey.years.last; ++year)
     AddYear(survey, indices, stock, year);
   if (std::find(survey.fitted.begin(), survey.fitted.end(), true) == survey.fitted.end())
-    throw Fault(list_file, group.line, "survey " + survey.title + " is 0 in all years");
+    throw Fault(list_file, group.line, "survey " + Quotable(survey.title) + " is 0 in all years");
   return survey;
 }
 
