@@ -162,7 +162,6 @@ void AddNumbersAtAge(Collection& collection, const PlotGroup& group) {
     frmOutput->cmdClearPlot1.UserClick();
   }
   group.list->SetListIndex(-1);
-  frmOutput->cmdClearPlot1.UserClick();
 }
 
 // The plots of one survey follow each other.
