@@ -21,6 +21,7 @@ function read_cells(line, into_value, value_column, into_sd, sd_column,    count
   gsub(/\\r\\n/, " / ", text)
   print "  " text
 }
+/^\{"message":\{"text":"Plot Collection Has Completed/ { collected = 1 }
 /^\{"(error|refused)":/ { print "  " $0; failed = 1 }
 /^\{"value":/ {
   asked++
@@ -47,5 +48,6 @@ END {
   print "StdFileRead: " (std_read ? "true" : "false")
   print "Case:    " folder "/cod.ctl, cod.dat, cod.pin"
   print "Results: " folder "/cod.rep, cod.std, cod.par (and cod.log, empty for a clean run)"
-  if (failed || !std_read) exit 1
+  if (collected) print "Plots:   " folder "/cod_plots.html, one page with all figures"
+  if (failed || !std_read || !collected) exit 1
 }
