@@ -43,11 +43,13 @@ void Grid::Resize(int rows, int cols) {
   std::erase_if(row_heights_, [&](const auto& h) { return h.first >= rows; });
   rows_ = rows;
   cols_ = cols;
+  ++generation_;
   MarkChanged();
 }
 
 void Grid::Clear() {
   for (std::string& cell : cells_) cell.clear();
+  ++generation_;
   MarkChanged();
 }
 

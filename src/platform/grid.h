@@ -40,6 +40,8 @@ class Grid : public Control {
     MarkChanged();
   }
   void Clear();  // empties the text of every cell; the size and the colours stay
+  // Grows with every Clear and every change of size: what stood in a cell before may stand elsewhere since.
+  int Generation() const { return generation_; }
 
   // Display only. Widths and heights in twips; -1 is the control's own default, 0 hides the column or row.
   int ColWidth(int col) const;
@@ -58,6 +60,7 @@ class Grid : public Control {
   int FixedRows = 1;
   int FixedCols = 1;
   int ReadOnlyCol = -1;  // a column of derived values among the others, -1 for none
+  int ColsInView = 0;    // display only: so many columns at the left stay in view, and never less than FixedCols
   // The current cell, the far end of the selected range, the first row in view below the fixed ones.
   int Row = 1;
   int Col = 1;
@@ -73,7 +76,9 @@ class Grid : public Control {
            col < cols_;
   }
 
-  // Raised by the front ends only.
+  // Raised by the front ends only. Each cell of a block that the user pastes, fills or deletes begins to be
+  // edited, as the current cell; the block's edit ends once, after its last cell: the handlers see to the
+  // whole grid.
   Handler OnBeginEdit = nullptr;
   Handler OnEndEdit = nullptr;
   void (*OnKeyDown)(int index, int code, bool control) = nullptr;
@@ -93,6 +98,7 @@ class Grid : public Control {
   std::vector<T> Refitted(std::vector<T>& table, int rows, int cols) const;
   int rows_ = 2;
   int cols_ = 2;
+  int generation_ = 0;
   std::vector<std::string> cells_ = std::vector<std::string>(4);
   std::map<int, int> col_widths_;
   std::map<int, int> row_heights_;

@@ -183,6 +183,7 @@ void PrepareSurveyIndex(Grid& grid) {
   LayOut(
       grid, static_cast<long long>(NIndex) * NYears,
       {"Survey", "Year", "Observed", "Predicted", "Residuals", "Log-Scale Resid.", "Std. Log-Scale Resid."});
+  grid.ColsInView = 2;
   const Texts years = YearTexts(NFYear, NYears);
   const Texts surveys = LabelsOf(Down::Surveys);
   int row = 1;
@@ -199,6 +200,7 @@ void PrepareFisheryAges(Grid& grid) {
   Texts headings = HeadingsOf(Across::Ages);
   headings.insert(headings.begin(), {"Data Type", "Year"});
   LayOut(grid, 4LL * NYears, headings);
+  grid.ColsInView = 2;
   PutBlockLabels(grid, 1, 0);
   MarkNotAvailable(grid, 2);
   FillJumpList(frmOutputData->Combo1, {"Observed", "Predicted", "Residuals", "Standardized Residuals"});
@@ -208,6 +210,7 @@ void PrepareSurveyAges(Grid& grid) {
   Texts headings = HeadingsOf(Across::Ages);
   headings.insert(headings.begin(), {"Survey", "Data Type", "Year"});
   LayOut(grid, 4LL * NYears * NIndex, headings);
+  grid.ColsInView = 3;
   int row = 1;
   for (const std::string& survey : LabelsOf(Down::Surveys)) {
     PutLabels(grid, 0, Texts(static_cast<std::size_t>(4 * NYears), survey), row);

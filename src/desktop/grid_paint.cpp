@@ -1,0 +1,117 @@
+#include "desktop/grid_paint.h"
+
+#include <QPainter>
+#include <algorithm>
+
+#include "desktop/grid_widths.h"
+#include "desktop/look.h"
+
+namespace tarnvik {
+
+namespace {
+
+QColor Mixed(const QColor& a, const QColor& b, double share_of_b) {
+  const auto mix = [=](int x, int y) { return static_cast<int>(x + (y - x) * share_of_b); };
+  return {mix(a.red(), b.red()), mix(a.green(), b.green()), mix(a.blue(), b.blue())};
+}
+
+void PaintHeading(QPainter& painter, const QRect& rect, const QString& text, Qt::Alignment alignment,
+                  bool marked, const QPalette& palette) {
+  const QColor face = palette.color(QPalette::Button);
+  painter.fillRect(rect, marked ? Mixed(face, palette.color(QPalette::Highlight), 0.3) : face);
+  painter.setPen(Mixed(face, palette.color(QPalette::ButtonText), 0.3));
+  painter.drawLine(rect.topRight(), rect.bottomRight());
+  painter.drawLine(rect.bottomLeft(), rect.bottomRight());
+  painter.setPen(palette.color(QPalette::ButtonText));
+  const QRect inside = rect.adjusted(kCellMargin, 0, -kCellMargin, 0);
+  painter.drawText(inside, static_cast<int>(alignment.toInt()) | Qt::TextWordWrap, text);
+}
+
+}  // namespace
+
+// --- Cells
+
+void CellPainter::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
+  QStyledItemDelegate::initStyleOption(option, index);
+  option->state.setFlag(QStyle::State_HasFocus, false);  // the frame is ours
+  const auto& model = static_cast<const GridModel&>(*index.model());
+  const Grid* grid = model.Shown();
+  const CellAt at = model.CellOf(index);
+  if (!grid || at.row >= grid->Rows() || at.col >= grid->Cols()) return;
+  const QPalette& palette = option->palette;
+  const Color back = grid->CellBackColor(at.row, at.col);
+  QColor ground = ShownColor(back, palette);
+  if (back == kWindowBackground && !grid->CellEditable(at.row, at.col)) {
+    ground = grid->Editable ? palette.color(QPalette::Button)
+                            : Mixed(ground, palette.color(QPalette::Window), 0.5);
+  }
+  option->backgroundBrush = ground;
+  option->palette.setColor(QPalette::Text, ShownColor(grid->CellForeColor(at.row, at.col), palette));
+}
+
+void CellPainter::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                        const QModelIndex& index) const {
+  QStyleOptionViewItem drawn = option;
+  const auto* table = qobject_cast<const QAbstractItemView*>(option.widget);
+  const bool current = table && table->currentIndex() == index;
+  // The current cell of a range is the one where it began: it stands out from the others.
+  if (current) drawn.state.setFlag(QStyle::State_Selected, false);
+  QStyledItemDelegate::paint(painter, drawn, index);
+  if (!current) return;
+  const QColor frame =
+      option.palette.color(table->hasFocus() ? QPalette::Active : QPalette::Inactive, QPalette::Highlight);
+  painter->save();
+  painter->setPen(QPen(frame, 2));
+  painter->drawRect(option.rect.adjusted(1, 1, -1, -1));
+  painter->restore();
+}
+
+// --- Headers
+
+GridHeader::GridHeader(Qt::Orientation orientation, const GridModel& model, QWidget* parent)
+    : QHeaderView(orientation, parent), grid_(model) {
+  setSectionsClickable(true);
+  setHighlightSections(true);
+}
+
+void GridHeader::SetLabelWidths(std::vector<int> widths) {
+  label_widths_ = std::move(widths);
+  int total = 0;
+  for (const int width : label_widths_) total += width;
+  setFixedWidth(total);
+}
+
+void GridHeader::paintSection(QPainter* painter, const QRect& rect, int section) const {
+  const Grid* grid = grid_.Shown();
+  if (!grid || !rect.isValid()) return;
+  const bool across = orientation() == Qt::Horizontal;
+  const bool marked = across ? selectionModel()->columnIntersectsSelection(section, rootIndex())
+                             : selectionModel()->rowIntersectsSelection(section, rootIndex());
+  painter->save();
+  if (across) {
+    const QString text = grid_.headerData(section, orientation(), Qt::DisplayRole).toString();
+    PaintHeading(*painter, rect, text, Qt::AlignCenter, marked, palette());
+  } else {
+    PaintLabels(*painter, rect, grid_.RowOf(section), marked);
+  }
+  painter->restore();
+}
+
+void GridHeader::PaintCorner(QPainter& painter, const QRect& rect) const {
+  PaintLabels(painter, rect, 0, false);
+}
+
+void GridHeader::PaintLabels(QPainter& painter, const QRect& rect, int row, bool marked) const {
+  const Grid* grid = grid_.Shown();
+  int left = rect.left();
+  for (std::size_t col = 0; grid && col < label_widths_.size(); ++col) {
+    const QRect place(left, rect.top(), label_widths_[col], rect.height());
+    const CellAt at = {row, static_cast<int>(col)};
+    const Qt::Alignment alignment =
+        row < grid->FixedRows ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter;
+    PaintHeading(painter, place, TextAt(grid, at), alignment, marked, palette());
+    left += label_widths_[col];
+  }
+}
+
+}  // namespace tarnvik
