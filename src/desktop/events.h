@@ -22,8 +22,4 @@ void RefreshViews();
 // Called when an event has ended and its views have been refreshed; empty while there is no main window.
 extern std::function<void()> AfterEvent;
 
-// Brings into the logic what stands half typed in the field that has the focus, as leaving the field would:
-// before a menu entry or a shortcut acts on the case.
-void CommitPendingEdits();
-
 }  // namespace tarnvik
