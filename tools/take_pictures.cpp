@@ -53,7 +53,9 @@ class PictureHost : public Host {
   void SetPointer(Pointer) override {}
   void SetClipboard(std::string) override {}
   void ExportChart(const Chart&, const std::string&) override {}
-  std::int32_t CreateConsoleProcess(const std::string& command) override { return RunConsoleProcess(command); }
+  std::int32_t CreateConsoleProcess(const std::string& command) override {
+    return RunConsoleProcess(command);
+  }
   void StartProgram(const std::string&) override {}
   int OpenDocument(const std::string&) override { return 0; }
   DateTime Now() override { return {2026, 11, 16, 1, 5}; }
@@ -121,8 +123,9 @@ void CopyCase(const QString& ctl, const QString& folder, QString& copy) {
 }
 
 void FillIndices() {
-  for (const char* entry : {"Index 1:  Spring,  Ages 1-8,  Jan-1 Numbers", "Index 2:  Fall,  Ages 1-6,  Mean Weight",
-                            "Index 3:  Acoustic,  Ages 2-8,  Mean Numbers"}) {
+  for (const char* entry :
+       {"Index 1:  Spring,  Ages 1-8,  Jan-1 Numbers", "Index 2:  Fall,  Ages 1-6,  Mean Weight",
+        "Index 3:  Acoustic,  Ages 2-8,  Mean Numbers"}) {
     frmVPAIndices->lstVPA.AddItem(entry);
   }
   frmVPAIndices->lblVPAFile.SetCaption("/home/user/assessments/north-sea-cod/vpa/cod.dat");

@@ -1,5 +1,6 @@
 #include "desktop/arrangement.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 namespace tarnvik {
@@ -72,7 +73,9 @@ class Reader {
     }
     if (!AtEnd() && text_[at_] == '*') {
       ++at_;
-      cell.share = std::stoi(ReadUntil(" /)"));
+      cell.share = 0;
+      while (!AtEnd() && text_[at_] >= '0' && text_[at_] <= '9')
+        cell.share = 10 * cell.share + (text_[at_++] - '0');
     }
     return cell;
   }

@@ -56,6 +56,8 @@ QString MarkedCaption(const QWidget& widget, const std::string& caption) {
 void GiveSpokenName(QWidget& widget, const QString& name) {
   widget.setProperty(kSpokenName, name);
   widget.setAccessibleName(name);
+  QWidget* inner = widget.focusProxy();
+  if (inner && inner->accessibleName().isEmpty()) inner->setAccessibleName(name);
 }
 
 QString SpokenName(const QWidget& widget) { return widget.property(kSpokenName).toString(); }

@@ -11,12 +11,17 @@
 
 #include "desktop/arrangement.h"
 #include "desktop/layouts.h"
+#include "desktop/look.h"
 #include "desktop/page_views.h"
 #include "desktop/text.h"
 
 namespace tarnvik {
 
 namespace {
+
+constexpr int kGap = 8;
+constexpr int kColumnGap = 12;
+constexpr int kIndent = 16;
 
 // Beside or above what it describes; seen and greyed with it.
 class SideText : public QLabel {
@@ -31,8 +36,8 @@ class SideText : public QLabel {
  protected:
   bool eventFilter(QObject* target, QEvent* event) override {
     const QEvent::Type type = event->type();
-    if (target == buddy() && (type == QEvent::ShowToParent || type == QEvent::HideToParent ||
-                              type == QEvent::EnabledChange)) {
+    if (target == buddy() &&
+        (type == QEvent::ShowToParent || type == QEvent::HideToParent || type == QEvent::EnabledChange)) {
       Follow(*buddy());
     }
     return QLabel::eventFilter(target, event);
@@ -48,14 +53,15 @@ class SideText : public QLabel {
 // What stands at one place of the grid that a row is part of.
 struct Piece {
   QWidget* widget = nullptr;
-  QLayout* layout = nullptr;   // in place of a widget
-  Label* label = nullptr;      // the label that it is
-  SideText* text = nullptr;    // the text that it is
-  std::string caption;         // of a check box, a label or a text
-  bool natural = false;        // never larger than it needs to be
+  QLayout* layout = nullptr;  // in place of a widget
+  Label* label = nullptr;     // the label that it is
+  SideText* text = nullptr;   // the text that it is
+  std::string caption;        // of a check box, a label or a text
+  bool natural = false;       // never larger than it needs to be
   bool button = false;
   bool frame = false;
   bool gap = false;
+  bool empty = false;
   int grow_x = 0;
   int grow_y = 0;
 };
@@ -66,6 +72,13 @@ struct Growth {
   int x = 0;
   int y = 0;
 };
+
+QGridLayout* MakeGrid(QWidget* parent = nullptr) {
+  auto* grid = new QGridLayout(parent);
+  grid->setHorizontalSpacing(kColumnGap);
+  grid->setVerticalSpacing(kGap);
+  return grid;
+}
 
 QString WithoutColon(const std::string& caption) {
   QString text = ShownText(caption).simplified();
@@ -96,8 +109,7 @@ class Layouter {
   Growth Run() {
     Rows rows;
     if (const char* text = ArrangementOf(parts_.form.Name(), PlaceName())) rows = ReadArrangement(text);
-    auto* grid = new QGridLayout(&widget_);
-    grid->setHorizontalSpacing(12);
+    QGridLayout* grid = MakeGrid(&widget_);
     std::vector<Line> lines = MakeLines(rows);
     AddTheRest(lines);
     const Growth growth = Fill(*grid, lines);
@@ -130,6 +142,18 @@ class Layouter {
     if (!container_) return parts_.form.Caption();
     if (container_->Kind() != ControlKind::TabStrip) return container_->Caption();
     return static_cast<TabStrip*>(container_)->TabCaption(page_);
+  }
+
+  // The caption of the nearest frame or page that has one, else that of the form.
+  std::string CaptionAround(const Control& control) const {
+    for (const Control* inner = &control; inner->Container(); inner = inner->Container()) {
+      const Control* around = inner->Container();
+      const bool page = around->Kind() == ControlKind::TabStrip;
+      const std::string& caption =
+          page ? static_cast<const TabStrip*>(around)->TabCaption(inner->Page()) : around->Caption();
+      if (!caption.empty()) return caption;
+    }
+    return parts_.form.Caption();
   }
 
   // A label describes the field with its caption: of several the one of the same index, else the one that the
@@ -185,6 +209,7 @@ class Layouter {
   Piece TextPiece(const std::string& text) {
     Piece piece;
     piece.widget = piece.text = new SideText(ShownText(text), &widget_);
+    piece.text->setContentsMargins(0, 0, kMarkRoom, 0);
     piece.text->setTextFormat(Qt::PlainText);
     piece.caption = text;
     piece.natural = true;
@@ -209,6 +234,7 @@ class Layouter {
       Piece piece = LabelPiece(static_cast<Label&>(control));
       // A value stands behind its caption.
       const bool value = LookOf(control) != Look::Plain || control.OnClick;
+      if (value) piece.label = nullptr;
       if (value && !line.empty() && !line.back().caption.empty()) {
         GiveSpokenName(*piece.widget, WithoutColon(line.back().caption));
         if (control.OnClick) Describe(line.back(), *piece.widget, QString());
@@ -261,6 +287,9 @@ class Layouter {
     QWidget& widget = *piece.widget;
     const int line = widget.fontMetrics().height() + 8;
     if (IsLineField(field)) {
+      QSizePolicy policy = widget.sizePolicy();
+      policy.setRetainSizeWhenHidden(keep_place_);
+      widget.setSizePolicy(policy);
       piece.grow_x = LookOf(field) == Look::Wide ? share : 0;
       piece.natural = piece.grow_x == 0;
       return piece;
@@ -270,7 +299,7 @@ class Layouter {
       widget.setMinimumSize(320, 240);
     } else if (LookOf(field) == Look::Short) {
       const int rows = static_cast<const Grid&>(field).Rows();
-      widget.setFixedHeight(rows * line + QScrollBar(Qt::Horizontal).sizeHint().height() + 4);
+      widget.setFixedHeight((rows + 1) * line + QScrollBar(Qt::Horizontal).sizeHint().height() + 4);
       piece.grow_y = 0;
     } else {
       widget.setMinimumSize(140, 5 * line);
@@ -304,7 +333,7 @@ class Layouter {
       Describe(said, *described.widget, before);
       said.widget->setProperty("describes", true);
     } else if (described.widget->accessibleName().isEmpty()) {
-      GiveSpokenName(*described.widget, WithoutColon(PlaceCaption()));
+      GiveSpokenName(*described.widget, WithoutColon(CaptionAround(field)));
     }
     if (follows || !has_description) {
       line.push_back(described);
@@ -313,6 +342,7 @@ class Layouter {
       line.push_back(described);
     } else {
       auto* both = new QVBoxLayout;
+      both->setSpacing(kGap / 2);
       both->addWidget(description.widget);
       both->addWidget(described.widget, 1);
       described.layout = both;
@@ -338,15 +368,20 @@ class Layouter {
 
   // Controls of which the logic shows one at a time.
   Piece SharedPiece(const Cell& cell) {
-    auto* grid = new QGridLayout;
+    QGridLayout* grid = MakeGrid();
     Piece shared;
     shared.layout = grid;
     for (const std::string& name : cell.names) {
       Control* control = Named(name);
-      if (!control) continue;
+      if (!control) {
+        qWarning("%s: no %s in \"%s\"", parts_.form.Name().c_str(), name.c_str(), PlaceName().c_str());
+        continue;
+      }
       std::vector<Line> lines(1);
+      keep_place_ = false;
       AddControl(lines[0], *control, cell.share);
-      auto* one = new QGridLayout;
+      keep_place_ = true;
+      QGridLayout* one = MakeGrid();
       const Growth growth = Fill(*one, lines);
       grid->addLayout(one, 0, 0);
       shared.grow_x = std::max(shared.grow_x, growth.x);
@@ -362,6 +397,9 @@ class Layouter {
       if (control->Name() == cell.names[0]) elements.push_back(control);
     }
     for (Control* control : elements) AddControl(line, *control, cell.share);
+    if (elements.empty()) {
+      qWarning("%s: no %s in \"%s\"", parts_.form.Name().c_str(), cell.names[0].c_str(), PlaceName().c_str());
+    }
   }
 
   void AddCell(Line& line, const Cell& cell) {
@@ -377,8 +415,7 @@ class Layouter {
         line.push_back(TextPiece(cell.text));
         break;
       case Cell::Kind::Rows: {
-        auto* grid = new QGridLayout;
-        grid->setHorizontalSpacing(12);
+        QGridLayout* grid = MakeGrid();
         std::vector<Line> lines = MakeLines(cell.rows);
         const Growth growth = Fill(*grid, lines);
         Piece piece;
@@ -392,6 +429,7 @@ class Layouter {
       case Cell::Kind::Gap:
         line.emplace_back();
         line.back().gap = cell.kind == Cell::Kind::Gap;
+        line.back().empty = !line.back().gap;
         break;
     }
   }
@@ -466,6 +504,7 @@ class Layouter {
     }
     // Frames without anything that grows share the width, so that their edges are in line.
     for (const Line& line : lines) {
+      if (IsRowOfItsOwn(line)) continue;
       for (std::size_t at = 0; at < line.size() && none(0); ++at) {
         if (line[at].frame) shares.assign(columns, 1);
       }
@@ -473,43 +512,55 @@ class Layouter {
     return shares;
   }
 
+  static int PutInColumns(QGridLayout& grid, const Line& line, int row, int columns) {
+    int grows = 0;
+    for (std::size_t at = 0; at < line.size(); ++at) {
+      const Piece& piece = line[at];
+      const int column = static_cast<int>(at);
+      const int span = at + 1 == line.size() ? columns - column : 1;
+      const Qt::Alignment side = piece.natural ? Qt::AlignLeft | Qt::AlignVCenter : Qt::Alignment();
+      if (piece.widget) grid.addWidget(piece.widget, row, column, 1, span, side);
+      if (piece.layout) grid.addLayout(piece.layout, row, column, 1, span);
+      if (piece.empty) grid.addItem(new QSpacerItem(kIndent, 0), row, column, 1, span);
+      grows = std::max(grows, piece.grow_y);
+    }
+    return grows;
+  }
+
+  // Space that nothing takes is left at the right and at the bottom, above a last row of buttons.
   static Growth Fill(QGridLayout& grid, const std::vector<Line>& lines) {
     std::size_t columns = 1;
+    Growth growth;
     for (const Line& line : lines) {
       if (!IsRowOfItsOwn(line)) columns = std::max(columns, line.size());
-    }
-    Growth growth;
-    int row = 0;
-    for (const Line& line : lines) {
-      int grows = 0;
-      if (IsRowOfItsOwn(line)) {
-        auto* box = new QHBoxLayout;
-        PutInRow(*box, line);
-        grid.addLayout(box, row, 0, 1, static_cast<int>(columns) + 1);
-      } else {
-        for (std::size_t at = 0; at < line.size(); ++at) {
-          const Piece& piece = line[at];
-          const int column = static_cast<int>(at);
-          const int span = at + 1 == line.size() ? static_cast<int>(columns - at) : 1;
-          const Qt::Alignment side = piece.natural ? Qt::AlignLeft | Qt::AlignVCenter : Qt::Alignment();
-          if (piece.widget) grid.addWidget(piece.widget, row, column, 1, span, side);
-          if (piece.layout) grid.addLayout(piece.layout, row, column, 1, span);
-          grows = std::max(grows, piece.grow_y);
-        }
+      for (const Piece& piece : line) {
+        growth.x = std::max(growth.x, piece.grow_x);
+        growth.y = std::max(growth.y, piece.grow_y);
       }
-      grid.setRowStretch(row++, grows);
-      growth.y = std::max(growth.y, grows);
     }
-    if (growth.y == 0) grid.setRowStretch(row, 1);
-    const std::vector<int> shares = ColumnShares(lines, columns);
-    for (std::size_t at = 0; at < columns; ++at) {
+    std::vector<int> shares = ColumnShares(lines, columns);
+    if (std::all_of(shares.begin(), shares.end(), [](int share) { return share == 0; })) shares.push_back(1);
+    for (std::size_t at = 0; at < shares.size(); ++at) {
       grid.setColumnStretch(static_cast<int>(at), shares[at]);
     }
+    int row = 0;
+    bool space_left = growth.y == 0;
     for (const Line& line : lines) {
-      for (const Piece& piece : line) growth.x = std::max(growth.x, piece.grow_x);
+      if (!IsRowOfItsOwn(line)) {
+        grid.setRowStretch(row, PutInColumns(grid, line, row, static_cast<int>(columns)));
+      } else {
+        if (space_left && &line == &lines.back() && row > 0) {
+          space_left = false;
+          grid.setRowStretch(row++, 1);
+        }
+        auto* box = new QHBoxLayout;
+        box->setSpacing(kGap);
+        PutInRow(*box, line);
+        grid.addLayout(box, row, 0, 1, static_cast<int>(shares.size()));
+      }
+      ++row;
     }
-    const bool shared = std::any_of(shares.begin(), shares.end(), [](int share) { return share > 0; });
-    if (!shared) grid.setColumnStretch(static_cast<int>(columns), 1);
+    if (space_left) grid.setRowStretch(row, 1);
     return growth;
   }
 
@@ -521,6 +572,7 @@ class Layouter {
   std::vector<Control*> unplaced_;
   std::map<const Control*, Label*> label_of_;
   std::vector<PagesView*> pages_;
+  bool keep_place_ = true;  // a hidden field leaves its place empty: nothing else moves
 };
 
 }  // namespace

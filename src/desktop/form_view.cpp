@@ -1,9 +1,10 @@
 #include "desktop/form_view.h"
 
-#include <QAbstractButton>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QLayout>
+#include <QPushButton>
+#include <algorithm>
 
 #include "core/frmmain.h"
 #include "desktop/field_views.h"
@@ -77,6 +78,9 @@ FormView::FormView(Form& form, QWidget* parent)
   setAccessibleName(ShownText(form.Caption()));
   AltLetters letters = LettersFor(form);
   LayOut(*parts_, *this, nullptr, 0, letters);
+  if (const Control* control = form.Find(kDefaultButton, -1)) {
+    if (auto* button = qobject_cast<QPushButton*>(WidgetOf(*control))) button->setDefault(true);
+  }
 }
 
 // The widgets go before the views that they call.
@@ -102,14 +106,19 @@ QWidget* FormView::WidgetOf(const Control& control) const {
 
 QSize FormView::sizeHint() const {
   const QSize first = FirstSizeOf(objectName().toStdString());
-  return first.isValid() ? first.expandedTo(layout()->minimumSize()) : QWidget::sizeHint();
+  if (first.width() <= 0) return QWidget::sizeHint();
+  const QSize least = layout()->totalMinimumSize();
+  const int width = std::max(first.width(), least.width());
+  if (first.height() > 0) return {width, std::max(first.height(), least.height())};
+  const bool wraps = layout()->hasHeightForWidth();
+  return {width, wraps ? layout()->totalHeightForWidth(width) : layout()->totalSizeHint().height()};
 }
 
 void FormView::keyPressEvent(QKeyEvent* event) {
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   const char* name = enter ? kDefaultButton : event->key() == Qt::Key_Escape ? kCancelButton : nullptr;
   const Control* control = name && form_ ? form_->Find(name, -1) : nullptr;
-  auto* button = control && control->Reachable() ? qobject_cast<QAbstractButton*>(WidgetOf(*control)) : nullptr;
+  auto* button = control && control->Reachable() ? qobject_cast<QPushButton*>(WidgetOf(*control)) : nullptr;
   if (!button) return QWidget::keyPressEvent(event);
   event->accept();
   button->click();

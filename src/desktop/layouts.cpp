@@ -29,23 +29,23 @@ const Arrangement kArrangements[] = {
     {"frmInput", "SSTab1 4", "Frame18 / Frame19 Frame20"},
     {"frmInput", "Frame18",
      "chkEstimate(4) txtEstimate(4) / chkEstimate(10) txtEstimate(10) / chkEstimate(11) txtEstimate(11)"},
-    {"frmInput", "SSTab1 5", "(Frame29 frmSurvInfo) / (Frame28*2 Frame30*5)"},
+    {"frmInput", "SSTab1 5", "(Frame29 frmSurvInfo) / (Frame28*1 Frame30*2)"},
     {"frmInput", "frmSurvInfo", "'Title' lblSurvTitle cmbSurvFYear cmbSurvXYear"},
     {"frmInput", "Frame28", "chkSurvFit / ORVFlexGrid(16)"},
     {"frmInput", "SSTab1 6", "Frame22 / Frame21"},
     {"frmInput", "Frame22",
-     "opSurvSelModel(0) opSurvSelModel(1) / frmSurvSelModel Frame7 / frmSurvSelEstPar"},
+     "opSurvSelModel(0) opSurvSelModel(1) / frmSurvSelModel Frame7 / frmSurvSelEstPar ."},
     {"frmInput", "frmSurvSelEstPar",
      "chkSurvSelParEst(0) txtSurvSelParEst(0) / chkSurvSelParEst(1) txtSurvSelParEst(1) /"
      "chkSurvSelParEst(2) txtSurvSelParEst(2)"},
     {"frmInput", "Frame7", "chkSurvSelNonParEst txtSurvSelNonParEst"},
     {"frmInput", "SSTab1 7", "Frame15 / Frame6 / Frame16"},
     {"frmInput", "Frame16",
-     "ORVFlexGrid(9) listSurvFit listSurvSample / (txtEstSurvSample) / chkEstimate(2) txtEstimate(2) /"
-     "chkEstimate(3) txtEstimate(3)"},
-    {"frmInput", "SSTab1 8", "Frame4*1 Frame8*4"},
+     "ORVFlexGrid(9) listSurvFit (listSurvSample / (txtEstSurvSample)) /"
+     "(chkEstimate(2) txtEstimate(2) / chkEstimate(3) txtEstimate(3))"},
+    {"frmInput", "SSTab1 8", "Frame4*1 Frame8*3"},
     {"frmInput", "SSTab1 10", "txtFractionZ / Frame24"},
-    {"frmInput", "SSTab1 12", "(Frame13 / Frame25) (Frame10 / Frame17 / Frame11) Frame23"},
+    {"frmInput", "SSTab1 12", "(Frame13 / Frame25 / Frame11) (Frame10 / Frame17 / Frame23)"},
     {"frmInput", "Frame13",
      "chkEstimate(1) txtEstimate(1) / . cmbMType / . txtEstimate(0) / chkEstimateLogRec txtPhaseLogRec /"
      "chkEstimateRecDev txtPhaseRecDev / chkEstimateFMort txtPhaseFMort /"
@@ -66,7 +66,7 @@ const Arrangement kArrangements[] = {
     {"frmOutputData", "SSTab1 5", "('Go to:' Combo2) / FrameGrid(4)"},
     {"frmOutputData", "SSTab1 6", "FrameGrid(16)*2 FrameGrid(17)*3"},
     {"frmOutputData", "SSTab1 7", "(lblRatioCaption(11) lblRatio(11)) / FrameGrid(6)*3 FrameGrid(8)*2"},
-    {"frmOutputData", "SSTab3 1", "FrameGrid(5) / FrameRatio(0) FrameRatio(1)"},
+    {"frmOutputData", "SSTab3 1", "FrameGrid(5) / FrameRatio(0) / FrameRatio(1)"},
     {"frmOutputData", "FrameRatio(0)",
      ". 'Value' 'Std. Dev.' / lblRatioCaption(0) lblRatio(0) lblRatioStdDev(0) /"
      "lblRatioCaption(1) lblRatio(1) lblRatioStdDev(1)"},
@@ -90,7 +90,7 @@ const Arrangement kArrangements[] = {
      "lblSummCaption(3) lblSumm(3)) / (Label8(11) / MSFlexGrid1) (Label8(12) / MSFlexGrid2)"},
     {"frmOutputData", "SSTab1 16",
      "(lblSummCaption(22) lblSumm(22) / lblSummCaption(23) lblSumm(23) / LabelCPUE2 lblSumm(25) /"
-     "lblSummCaption(24) lblSumm(24)) / (Label8(3) / MSFlexGrid3)*2 (Label8(4) / MSFlexGrid4)*2"
+     "lblSummCaption(24) lblSumm(24)) / (Label8(3) / MSFlexGrid3)*2 (Label8(4) / MSFlexGrid4)*2 "
      "(Label8(5) / MSFlexGrid5)*3"},
 
     // --- Estimated parameters
@@ -109,30 +109,27 @@ const Arrangement kArrangements[] = {
     {"frmSTD", "SSTab1 4", "FrameGrid(2) / FrameGrid(3)"},
 
     // --- Output plots
-    {"frmOutput", "SSTab1 0", "('Year:' cboPlot1 lblPlot1 cmdPlot1 cmdClearPlot1) / Chart1"},
-    {"frmOutput", "SSTab1 1", "(Option23 FrameSTD(8)) / Chart23"},
+    {"frmOutput", "SSTab1 0", "FramePlot1 cmdPlot1 cmdClearPlot1 lblPlot1 > / Chart1"},
+    {"frmOutput", "SSTab1 1", "(Option23(0) / Option23(1)) FrameSTD(8) > / Chart23"},
     {"frmOutput", "SSTab1 2", "(Option27) / Chart27"},
-    {"frmOutput", "SSTab1 3", "('Survey:' cboPlot3) / (Option3a) / Chart3"},
-    {"frmOutput", "SSTab1 4", "('Year:' cboPlot4 Check4) / (Option4) / Chart4"},
-    {"frmOutput", "SSTab1 5", "('Survey:' cboPlot5a 'Year:' cboPlot5b Check5) / (Option5) / Chart5"},
-    {"frmOutput", "SSTab1 7", "('Survey:' cboPlot18) / Chart18"},
-    {"frmOutput", "SSTab1 8", "(Option9 FrameSTD(3)) / Chart9"},
-    {"frmOutput", "SSTab1 9", "(FrameSTD(4)) / Chart11"},
+    {"frmOutput", "SSTab1 3", "FramePlot3 Option3a > / Chart3"},
+    {"frmOutput", "SSTab1 4", "FramePlot4 (Check4 / (Option4)) > / Chart4"},
+    {"frmOutput", "SSTab1 5", "FramePlot5a FramePlot5b (Check5 / (Option5)) > / Chart5"},
+    {"frmOutput", "SSTab1 7", "FramePlot18 > / Chart18"},
+    {"frmOutput", "SSTab1 8", "(Option9(0) / Option9(1)) FrameSTD(3) > / Chart9"},
+    {"frmOutput", "SSTab1 9", "FrameSTD(4) > / Chart11"},
     {"frmOutput", "SSTab1 10", "(Option10) / Chart10"},
-    {"frmOutput", "SSTab1 11", "(Option6 FrameSTD(0)) / Chart6"},
+    {"frmOutput", "SSTab1 11", "(Option6(0) / Option6(1) / Option6(2)) FrameSTD(0) > / Chart6"},
     {"frmOutput", "SSTab1 12",
-     "((Option7(0) Option7(2) Option7(4) Option7(6) / Option7(1) Option7(3) Option7(5) Option7(7)))"
-     "/ (FramePlot7(0) FramePlot7(1)) / Chart7"},
-    {"frmOutput", "FramePlot7(0)", "'Year:' Combo7(0)"},
-    {"frmOutput", "FramePlot7(1)", "'Age:' Combo7(1)"},
-    {"frmOutput", "SSTab1 13", "((Option26(0) / Option26(1)) FrameSTD(7)) / Chart26"},
+     "FramePlot7(0)=FramePlot7(1) (Option7(0) Option7(2) Option7(4) Option7(6) /"
+     "Option7(1) Option7(3) Option7(5) Option7(7)) > / Chart7"},
+    {"frmOutput", "SSTab1 13", "(Option26(0) / Option26(1)) FrameSTD(7) > / Chart26"},
     {"frmOutput", "SSTab1 14", "(Option8) / Chart8"},
-    {"frmOutput", "SSTab1 15", "('Age:' cboPlot2) / Chart2"},
-    {"frmOutput", "SSTab1 16", "((Option12(0) / Option12(1)) FrameSTD(5)) / Chart12"},
-    {"frmOutput", "SSTab1 17", "((Option25(0) / Option25(1)) FrameSTD(6)) / Chart25"},
-    {"frmOutput", "SSTab1 19",
-     "(Option13(0) 'Period:' cboPlot13(0) / Option13(1) 'Year:' cboPlot13(1)) / Chart13"},
-    {"frmOutput", "SSTab1 20", "('Survey:' cboPlot14) / Chart14"},
+    {"frmOutput", "SSTab1 15", "FramePlot2 > / Chart2"},
+    {"frmOutput", "SSTab1 16", "(Option12(0) / Option12(1)) FrameSTD(5) > / Chart12"},
+    {"frmOutput", "SSTab1 17", "(Option25(0) / Option25(1)) FrameSTD(6) > / Chart25"},
+    {"frmOutput", "SSTab1 19", "(Option13(0) / Option13(1)) FramePlot13(0) FramePlot13(1) > / Chart13"},
+    {"frmOutput", "SSTab1 20", "FramePlot14 > / Chart14"},
     {"frmOutput", "FrameSTD(0)",
      "lblSTDlevels(0) lblSTDplus(0) txtSTDplus(0) lblSTDminus(0) txtSTDminus(0) cmdPlot6"},
     {"frmOutput", "FrameSTD(3)",
@@ -165,11 +162,10 @@ const Arrangement kArrangements[] = {
     {"frmPlotInput", "SSTab1 13", "frmPlot13 lblNoData13 > / Chart13"},
 
     // --- Plot collection
-    {"frmPlotCollect", "",
-     "SSTab1 / cmdAll cmdDefault cmdNone > cmdGenerate cmdCancel"},
+    {"frmPlotCollect", "", "SSTab1 / cmdAll cmdDefault cmdNone > cmdGenerate cmdCancel"},
     {"frmPlotCollect", "SSTab1 0",
-     "lblHeading(0) / chkPlots(0) / chkPlots(25) / chkPlots(24) / chkPlots(2) / Label3 / chkPlots(3) /"
-     "chkPlots(4) / chkPlots(5) / Label5 / chkPlots(6) / chkPlots(7) / chkPlots(8)"},
+     "lblHeading(0) / chkPlots(0) / chkPlots(25) / chkPlots(24) / chkPlots(2) / Label3 / . chkPlots(3) /"
+     ". chkPlots(4) / . chkPlots(5) / Label5 / . chkPlots(6) / . chkPlots(7) / . chkPlots(8)"},
     {"frmPlotCollect", "SSTab1 1", "lblHeading(1)"},
     {"frmPlotCollect", "SSTab1 2", "lblHeading(2)"},
 
@@ -185,8 +181,8 @@ const Arrangement kArrangements[] = {
     {"frmEditTextBox", "", "'Title:' Text1 / > cmdOK cmdCancel"},
     {"frmAboutTARNVIK", "", "lblTitle / lblVersion / lblDescription / lblLicence / > cmdOK"},
     {"frmVPAIndices", "",
-     "(Label1 lblVPAFile) / (Label4 cmbNSurv) / (Label2 / lstVPA)*2 (Label3 / lstTARNVIK)*2"
-     "(Label5 / ORVFlexGrid1)*1 / lblHelp / > cmdImport cmdCancel"},
+     "(Label1 lblVPAFile) / (Label4 cmbNSurv) / (Label2 / lstVPA)*3 (Label3 / lstTARNVIK)*3 "
+     "(Label5 / ORVFlexGrid1)*2 / lblHelp / > cmdImport cmdCancel"},
 };
 
 struct LookRow {
@@ -232,11 +228,11 @@ struct SizeRow {
 };
 
 const SizeRow kSizes[] = {
-    {"frmInput", 1100, 680},     {"frmPin", 1000, 640},      {"frmOutputData", 1100, 680},
-    {"frmSTD", 900, 640},        {"frmOutput", 1100, 680},   {"frmPlotInput", 1000, 640},
-    {"frmPlotCollect", 620, 560}, {"frmView", 860, 600},     {"frmViewOpt", 520, 220},
-    {"frmEditGP", 480, 200}, {"frmFillNoData", 460, 240}, {"frmEditTextBox", 420, 110}, {"frmAboutTARNVIK", 400, 220},
-    {"frmVPAIndices", 960, 600},
+    {"frmInput", 1140, 680},      {"frmPin", 1000, 640},       {"frmOutputData", 1140, 680},
+    {"frmSTD", 900, 640},         {"frmOutput", 1140, 680},    {"frmPlotInput", 1000, 640},
+    {"frmPlotCollect", 620, 560}, {"frmView", 860, 600},       {"frmViewOpt", 520, 0},
+    {"frmEditGP", 480, 0},        {"frmFillNoData", 460, 0},   {"frmEditTextBox", 420, 0},
+    {"frmAboutTARNVIK", 400, 0},  {"frmVPAIndices", 960, 600},
 };
 
 }  // namespace

@@ -15,7 +15,7 @@ namespace tarnvik {
 //   'text'   a text for the control that follows
 //   a=b      controls that share one place: which is seen the logic says
 //   ( ... )  rows within a row
-//   .        nothing
+//   .        nothing: an empty cell, wide enough to indent what follows
 //   >        what follows stands at the right edge
 //   x*3      three times as large a share of the space that is left
 // A field brings the label that the record placed beside it. What is not named follows below.
@@ -41,9 +41,9 @@ enum class Look {
 Look LookOf(const Control& control);
 
 // Tab controls with more pages have them in a list at the left.
-inline constexpr int kMostTabsInARow = 6;
+inline constexpr int kMostTabsInARow = 4;
 
-// How large the window of a form is at first.
+// How large the window of a form is at first; without a height it is as high as it needs to be.
 QSize FirstSizeOf(std::string_view form);
 
 // Which buttons Enter and Escape press.

@@ -12,4 +12,7 @@ namespace tarnvik {
 // enough on a dark background and dark enough on a light one to be read.
 QColor ShownColor(Color color, const QPalette& palette);
 
+// Room at the end of a caption: the mark under its letter parts letters that else stand closer together.
+inline constexpr int kMarkRoom = 3;
+
 }  // namespace tarnvik

@@ -46,6 +46,7 @@ QListWidget* MakeList(QWidget* parent) {
   auto* list = new QListWidget(parent);
   list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   list->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+  list->setSpacing(2);
   return list;
 }
 
@@ -114,6 +115,7 @@ void PagesView::OrderTabs(const std::vector<std::unique_ptr<ControlView>>& views
   for (std::size_t at = first; at < views.size(); ++at) {
     const auto* inner = dynamic_cast<const PagesView*>(views[at].get());
     QWidget* widget = inner ? inner->Turner() : views[at]->Widget();
+    if (widget->focusProxy()) widget = widget->focusProxy();
     if (!(widget->focusPolicy() & Qt::TabFocus)) continue;
     QWidget::setTabOrder(before, widget);
     before = widget;
@@ -137,7 +139,7 @@ void PagesView::ShowList() {
     item.setFlags(Its()->TabEnabled(page) ? Qt::ItemIsEnabled | Qt::ItemIsSelectable : Qt::NoItemFlags);
   }
   list_->setCurrentRow(Its()->Tab());
-  list_->setFixedWidth(list_->sizeHintForColumn(0) + 2 * list_->frameWidth() +
+  list_->setFixedWidth(list_->sizeHintForColumn(0) + 2 * (list_->frameWidth() + list_->spacing()) +
                        list_->verticalScrollBar()->sizeHint().width());
 }
 

@@ -11,6 +11,7 @@
 #include "desktop/captions.h"
 #include "desktop/field_views.h"
 #include "desktop/layouts.h"
+#include "desktop/look.h"
 #include "desktop/text.h"
 
 namespace tarnvik {
@@ -22,10 +23,15 @@ namespace {
 class LineEdit : public QLineEdit {
  public:
   using QLineEdit::QLineEdit;
+  std::function<void()> entered;
   std::function<void(Qt::FocusReason)> left;
   std::function<bool(int)> pressed;  // whether the key is used up
 
  protected:
+  void focusInEvent(QFocusEvent* event) override {
+    QLineEdit::focusInEvent(event);
+    entered();
+  }
   void focusOutEvent(QFocusEvent* event) override {
     QLineEdit::focusOutEvent(event);
     left(event->reason());
@@ -43,18 +49,20 @@ class LineEdit : public QLineEdit {
 class TextBoxView : public FieldView<TextBox, LineEdit> {
  public:
   TextBoxView(TextBox& box, QWidget* parent) : FieldView(box, new LineEdit(parent)) {
+    widget_->entered = [this] { told_ = false; };
     widget_->left = [this](Qt::FocusReason reason) { Left(reason); };
     widget_->pressed = [this](int code) { return Pressed(code); };
     QObject::connect(widget_, &QLineEdit::textEdited, widget_, [this](const QString& text) {
       if (!Shown()) return;
       edited_ = true;
+      told_ = false;
       Its()->SetText(TypedText(text));
     });
     QObject::connect(widget_, &QLineEdit::returnPressed, widget_, [this] {
       if (edited_) TellLeft();
     });
     if (LookOf(box) != Look::Wide) {
-      constexpr int kCharacters = 12;
+      constexpr int kCharacters = 11;
       widget_->setFixedWidth(widget_->fontMetrics().horizontalAdvance(QString(kCharacters, '0')));
     }
     Refresh();
@@ -78,10 +86,11 @@ class TextBoxView : public FieldView<TextBox, LineEdit> {
   // A window or menu that comes in front is no leaving, but what was typed counts from then on.
   void Left(Qt::FocusReason reason) {
     if (reason == Qt::PopupFocusReason) return;
-    if (edited_ || reason != Qt::ActiveWindowFocusReason) TellLeft();
+    if (edited_ || (!told_ && reason != Qt::ActiveWindowFocusReason)) TellLeft();
   }
   void TellLeft() {
     edited_ = false;
+    told_ = true;
     if (!Shown() || !Its()->OnLostFocus) return;
     UserEvent([this] { Its()->OnLostFocus(std::max(Its()->Index(), 0)); });
   }
@@ -90,7 +99,8 @@ class TextBoxView : public FieldView<TextBox, LineEdit> {
     UserEvent([this, code] { Its()->OnKeyPress(code); });
     return true;
   }
-  bool edited_ = false;
+  bool edited_ = false;  // since the handler was told last
+  bool told_ = false;    // since the box was entered or edited
   bool marked_ = false;
 };
 
@@ -167,12 +177,13 @@ QLabel* MakeLabelWidget(const Label& label, QWidget* parent) {
     font.setBold(true);
     widget->setFont(font);
   }
+  widget->setContentsMargins(0, 0, kMarkRoom, 0);
   if (look == Look::Note) widget->setWordWrap(true);
   if (look == Look::Value || look == Look::Path) {
     widget->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   }
   if (look == Look::Value) {
-    constexpr int kCharacters = 14;
+    constexpr int kCharacters = 12;
     widget->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     widget->setMinimumWidth(widget->fontMetrics().horizontalAdvance(QString(kCharacters, '0')));
   }
