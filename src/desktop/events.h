@@ -11,10 +11,6 @@ namespace tarnvik {
 // here.
 void UserEvent(const std::function<void()>& act);
 
-// Ends the editing of a text box or a cell as if it had been left: what was typed reaches the logic before an
-// act that does not move the focus, a menu entry for example.
-void CommitPendingEdits();
-
 // Brings every view of a changed control in line. The host does so too before a box or a modal form appears
 // and whenever the logic lets pending events run.
 void RefreshViews();
