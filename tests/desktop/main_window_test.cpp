@@ -15,6 +15,7 @@
 
 #include "core/frmmain.h"
 #include "core/globals.h"
+#include "desktop/events.h"
 #include "desktop/form_view.h"
 #include "desktop/form_window.h"
 #include "desktop/recent_cases.h"
