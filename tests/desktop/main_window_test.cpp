@@ -153,7 +153,7 @@ TEST_F(Window, runs_the_model_and_shows_every_page_and_plot) {
   EXPECT_EQ(TurnAllPages(frmPlotInput), 14);
   Choose("mnuViewReport");
   EXPECT_NE(window->WindowOf(frmView), nullptr);
-  for (const QString& how : {"&Cascade", "T&ile", "&Tabs"}) {
+  for (const char* how : {"&Cascade", "T&ile", "&Tabs"}) {
     QMenu* arranging = nullptr;
     for (QMenu* menu : window->menuBar()->findChildren<QMenu*>()) {
       if (menu->menuAction()->objectName() == "mnuWindow") arranging = menu;
