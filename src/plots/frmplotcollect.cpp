@@ -107,9 +107,6 @@ PlotCollectForm::PlotCollectForm() : Form("frmPlotCollect", "Plot Collection") {
 
 void PlotCollectForm::Load() { frmPlotCollect_Form_Load(); }
 
-namespace {
-
-// Years of which the fishery's table of ages shows at least one observed share.
 int CountYearsObserved() {
   int years = 0;
   for (int row = 1; row <= NYears; ++row) {
@@ -117,6 +114,8 @@ int CountYearsObserved() {
   }
   return years;
 }
+
+namespace {
 
 void ShowCount(int box, int count, int shown_at) {
   frmPlotCollect->chkPlots(shown_at).SetCaption(std::string(Trim(kBoxes[box].caption)) + "  (" +

@@ -40,4 +40,7 @@ void frmPlotCollect_cmdNone_Click(int);
 void frmPlotCollect_cmdGenerate_Click(int);
 void frmPlotCollect_cmdCancel_Click(int);
 
+// Years of which the fishery's table of ages in frmOutputData has at least one observed share.
+int CountYearsObserved();
+
 }  // namespace tarnvik

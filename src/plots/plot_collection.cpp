@@ -233,14 +233,6 @@ std::vector<PlotGroup> AllGroups() {
 
 // --- How many figures there will be
 
-int FisheryYearsObserved() {
-  int years = 0;
-  for (int year = 1; year <= NYears; ++year) {
-    if (HasObservedShare(ResultTable(3), year, 2)) ++years;
-  }
-  return years;
-}
-
 int SurveyYearsObserved() {
   int years = 0;
   for (int survey = 0; survey < frmOutput->cboPlot5a.ListCount(); ++survey) {
@@ -258,7 +250,7 @@ int CountFigures(const PlotGroup& group) {
       return NYears;
     case 4:
     case 5:
-      return FisheryYearsObserved();
+      return CountYearsObserved();
     case 6:
       return frmOutput->cboPlot5a.ListCount() * NYears;
     case 7:
