@@ -1,6 +1,7 @@
 // tarnvik-desktop [CASE.ctl]: the window program.
 #include <QApplication>
 #include <QFileInfo>
+#include <QIcon>
 #include <clocale>
 #include <cstdio>
 
@@ -9,11 +10,23 @@
 #include "desktop/main_window.h"
 #include "platform/process.h"
 
+namespace {
+
+QIcon OwnIcon() {
+  QIcon icon;
+  for (const int size : {16, 32, 48, 128, 256}) icon.addFile(QString(":/icon/tarnvik-%1.png").arg(size));
+  return icon;
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
   std::setlocale(LC_NUMERIC, "C");  // Qt has taken the user's; numbers in files are written one way
   QApplication::setOrganizationName("Tarnvik");
   QApplication::setApplicationName("Tarnvik");
+  QApplication::setWindowIcon(OwnIcon());
+  QApplication::setDesktopFileName("tarnvik");
   const QStringList arguments = QApplication::arguments();
   if (arguments.size() > 2) {
     std::fputs("usage: tarnvik-desktop [CASE.ctl]\n", stderr);
