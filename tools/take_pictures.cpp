@@ -74,8 +74,8 @@ struct Camera {
     timer.start();
     RefreshViews();
     QApplication::processEvents();
-    view.grab().save(folder.filePath(name + ".png"));
     QTextStream(stdout) << name << " " << timer.elapsed() << " ms\n";
+    view.grab().save(folder.filePath(name + ".png"));
   }
 
   // Turns the pages of a tab control, and those of the tab controls on them.
@@ -109,6 +109,9 @@ void UseDarkPalette() {
   QPalette dark(QColor(53, 53, 53));
   dark.setColor(QPalette::Base, QColor(35, 35, 35));
   dark.setColor(QPalette::Link, QColor(110, 170, 255));
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    dark.setColor(QPalette::Disabled, role, QColor(130, 130, 130));
+  }
   QApplication::setPalette(dark);
 }
 

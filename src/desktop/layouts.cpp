@@ -41,7 +41,7 @@ const Arrangement kArrangements[] = {
     {"frmInput", "Frame7", "chkSurvSelNonParEst txtSurvSelNonParEst"},
     {"frmInput", "SSTab1 7", "Frame15 / Frame6 / Frame16"},
     {"frmInput", "Frame16",
-     "ORVFlexGrid(9) listSurvFit (listSurvSample / (txtEstSurvSample)) /"
+     "ORVFlexGrid(9)*3 listSurvFit*2 (listSurvSample / (txtEstSurvSample)) /"
      "(chkEstimate(2) txtEstimate(2) / chkEstimate(3) txtEstimate(3))"},
     {"frmInput", "SSTab1 8", "Frame4*1 Frame8*3"},
     {"frmInput", "SSTab1 10", "txtFractionZ / Frame24"},
@@ -112,17 +112,17 @@ const Arrangement kArrangements[] = {
     {"frmOutput", "SSTab1 0", "FramePlot1 cmdPlot1 cmdClearPlot1 lblPlot1 > / Chart1"},
     {"frmOutput", "SSTab1 1", "(Option23(0) / Option23(1)) FrameSTD(8) > / Chart23"},
     {"frmOutput", "SSTab1 2", "(Option27) / Chart27"},
-    {"frmOutput", "SSTab1 3", "FramePlot3 Option3a > / Chart3"},
-    {"frmOutput", "SSTab1 4", "FramePlot4 (Check4 / (Option4)) > / Chart4"},
-    {"frmOutput", "SSTab1 5", "FramePlot5a FramePlot5b (Check5 / (Option5)) > / Chart5"},
+    {"frmOutput", "SSTab1 3", "FramePlot3 (Option3a(0) Option3a(2) / Option3a(1) Option3a(3)) > / Chart3"},
+    {"frmOutput", "SSTab1 4", "FramePlot4 Check4 > / (Option4) / Chart4"},
+    {"frmOutput", "SSTab1 5", "FramePlot5a FramePlot5b Check5 > / (Option5) / Chart5"},
     {"frmOutput", "SSTab1 7", "FramePlot18 > / Chart18"},
     {"frmOutput", "SSTab1 8", "(Option9(0) / Option9(1)) FrameSTD(3) > / Chart9"},
     {"frmOutput", "SSTab1 9", "FrameSTD(4) > / Chart11"},
     {"frmOutput", "SSTab1 10", "(Option10) / Chart10"},
     {"frmOutput", "SSTab1 11", "(Option6(0) / Option6(1) / Option6(2)) FrameSTD(0) > / Chart6"},
     {"frmOutput", "SSTab1 12",
-     "FramePlot7(0)=FramePlot7(1) (Option7(0) Option7(2) Option7(4) Option7(6) /"
-     "Option7(1) Option7(3) Option7(5) Option7(7)) > / Chart7"},
+     "FramePlot7(0)=FramePlot7(1) (Option7(0) Option7(1) / Option7(2) Option7(3) /"
+     "Option7(4) Option7(5) / Option7(6) Option7(7)) > / Chart7"},
     {"frmOutput", "SSTab1 13", "(Option26(0) / Option26(1)) FrameSTD(7) > / Chart26"},
     {"frmOutput", "SSTab1 14", "(Option8) / Chart8"},
     {"frmOutput", "SSTab1 15", "FramePlot2 > / Chart2"},
@@ -164,8 +164,9 @@ const Arrangement kArrangements[] = {
     // --- Plot collection
     {"frmPlotCollect", "", "SSTab1 / cmdAll cmdDefault cmdNone > cmdGenerate cmdCancel"},
     {"frmPlotCollect", "SSTab1 0",
-     "lblHeading(0) / chkPlots(0) / chkPlots(25) / chkPlots(24) / chkPlots(2) / Label3 / . chkPlots(3) /"
-     ". chkPlots(4) / . chkPlots(5) / Label5 / . chkPlots(6) / . chkPlots(7) / . chkPlots(8)"},
+     "lblHeading(0) / chkPlots(0) / chkPlots(25) / chkPlots(24) / chkPlots(2) / Label3 /"
+     "(. chkPlots(3) / . chkPlots(4) / . chkPlots(5)) / Label5 /"
+     "(. chkPlots(6) / . chkPlots(7) / . chkPlots(8))"},
     {"frmPlotCollect", "SSTab1 1", "lblHeading(1)"},
     {"frmPlotCollect", "SSTab1 2", "lblHeading(2)"},
 
@@ -229,7 +230,7 @@ struct SizeRow {
 
 const SizeRow kSizes[] = {
     {"frmInput", 1140, 680},      {"frmPin", 1000, 640},       {"frmOutputData", 1140, 680},
-    {"frmSTD", 900, 640},         {"frmOutput", 1140, 680},    {"frmPlotInput", 1000, 640},
+    {"frmSTD", 1020, 640},        {"frmOutput", 1140, 680},    {"frmPlotInput", 1000, 640},
     {"frmPlotCollect", 620, 560}, {"frmView", 860, 600},       {"frmViewOpt", 520, 0},
     {"frmEditGP", 480, 0},        {"frmFillNoData", 460, 0},   {"frmEditTextBox", 420, 0},
     {"frmAboutTARNVIK", 400, 0},  {"frmVPAIndices", 960, 600},

@@ -14,7 +14,7 @@ QColor ShownColor(Color color, const QPalette& palette) {
   if (color == kBlack || color == kNearBlack) return palette.color(QPalette::WindowText);
   const QColor hue = QColor::fromRgb(static_cast<QRgb>(color.value) | 0xff000000u);
   const bool dark = palette.color(QPalette::Window).lightness() < 128;
-  constexpr int kOnDark = 175;
+  constexpr int kOnDark = 200;
   constexpr int kOnLight = 105;
   return QColor::fromHsl(hue.hslHue(), hue.hslSaturation(), dark ? kOnDark : kOnLight);
 }

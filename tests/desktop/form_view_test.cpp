@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTabBar>
 #include <QTest>
 
@@ -246,6 +247,10 @@ Texts FaultsOf(const FormView& view) {
       }
     }
     seen.emplace_back(control, widget);
+  }
+  for (const QScrollArea* page : view.findChildren<QScrollArea*>()) {
+    const bool wide = page->isVisible() && page->horizontalScrollBar()->maximum() > 0;
+    if (wide) faults.push_back("the page is wider than the window");
   }
   return faults;
 }
