@@ -11,6 +11,10 @@ namespace tarnvik {
 // here.
 void UserEvent(const std::function<void()>& act);
 
+// Brings into the logic what stands half typed in the field that has the focus, as leaving the field would:
+// before a menu entry or a shortcut acts on the case.
+void CommitPendingEdits();
+
 // Brings every view of a changed control in line. The host does so too before a box or a modal form appears
 // and whenever the logic lets pending events run.
 void RefreshViews();
