@@ -36,6 +36,11 @@ std::optional<EditEnd> EndOf(const QKeyEvent& event, bool begun_by_typing) {
 
 }  // namespace
 
+QString TypedBy(const QKeyEvent& event) {
+  const bool pad = event.modifiers().testFlag(Qt::KeypadModifier);
+  return pad && event.text() == u"," ? QStringLiteral(".") : event.text();
+}
+
 CellEditor::CellEditor(CellAt at, const QString& text, const QString* typed, QWidget* parent)
     : QLineEdit(text, parent), at_(at), begun_by_typing_(typed != nullptr) {
   setFrame(false);
@@ -63,7 +68,11 @@ bool CellEditor::event(QEvent* event) {
 }
 
 void CellEditor::keyPressEvent(QKeyEvent* event) {
-  QLineEdit::keyPressEvent(event);
+  if (event->text() == u"," && TypedBy(*event) != u",") {
+    insert(TypedBy(*event));
+  } else {
+    QLineEdit::keyPressEvent(event);
+  }
   // What the field has no use for is not for the table either while it is open.
   event->accept();
 }

@@ -11,6 +11,9 @@ namespace tarnvik {
 // How an edit ends: the text is kept, unless it is abandoned, and the current cell moves on.
 enum class EditEnd { Stay, Abandon, Enter, EnterBack, Tab, TabBack, Up, Down, Left, Right };
 
+// What a key types; the number pad gives the decimal point of numbers whatever the keyboard's language.
+QString TypedBy(const QKeyEvent& event);
+
 class CellEditor : public QLineEdit {
  public:
   // `typed` is what began the edit: it replaces the text, and the arrows lead on to other cells. Null: the

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/text.h"
 #include "desktop/text.h"
 
 namespace tarnvik {
@@ -26,7 +27,9 @@ Qt::Alignment ColumnAlignment(const Grid& grid, int col) {
     if (bar == std::string::npos) break;
     begin = bar + 1;
   }
-  const std::string mark = format.substr(begin, format.find('|', begin) - begin);
+  std::string mark = format.substr(begin, format.find('|', begin) - begin);
+  // Where there is no label column, what is said of one is meant for the labels of other grids.
+  if (IsBlank(mark) && col >= LabelCols(grid)) mark = format.substr(format.rfind('|') + 1);
   if (mark.find('<') != std::string::npos) return Qt::AlignLeft | Qt::AlignVCenter;
   if (mark.find('^') != std::string::npos) return Qt::AlignCenter;
   // Unsaid: labels left, numbers right.

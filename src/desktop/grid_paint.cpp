@@ -23,8 +23,8 @@ void PaintHeading(QPainter& painter, const QRect& rect, const QString& text, Qt:
   painter.drawLine(rect.topRight(), rect.bottomRight());
   painter.drawLine(rect.bottomLeft(), rect.bottomRight());
   painter.setPen(palette.color(QPalette::ButtonText));
-  const QRect inside = rect.adjusted(kCellMargin, 0, -kCellMargin, 0);
-  painter.drawText(inside, static_cast<int>(alignment.toInt()) | Qt::TextWordWrap, text);
+  const QRect inside = rect.adjusted(kCellMargin, 0, -kCellMargin, -1);
+  painter.drawText(inside, static_cast<int>(alignment.toInt()) | Qt::TextWordWrap, BrokenAtBlanks(text));
 }
 
 }  // namespace
@@ -51,18 +51,23 @@ void CellPainter::initStyleOption(QStyleOptionViewItem* option, const QModelInde
 
 void CellPainter::paint(QPainter* painter, const QStyleOptionViewItem& option,
                         const QModelIndex& index) const {
+  painter->save();
   QStyleOptionViewItem drawn = option;
   const auto* table = qobject_cast<const QAbstractItemView*>(option.widget);
   const bool current = table && table->currentIndex() == index;
   // The current cell of a range is the one where it began: it stands out from the others.
   if (current) drawn.state.setFlag(QStyle::State_Selected, false);
+  drawn.rect.adjust(0, 0, -1, -1);
   QStyledItemDelegate::paint(painter, drawn, index);
-  if (!current) return;
-  const QColor frame =
-      option.palette.color(table->hasFocus() ? QPalette::Active : QPalette::Inactive, QPalette::Highlight);
-  painter->save();
-  painter->setPen(QPen(frame, 2));
-  painter->drawRect(option.rect.adjusted(1, 1, -1, -1));
+  const QPalette& palette = option.palette;
+  painter->setPen(Mixed(palette.color(QPalette::Base), palette.color(QPalette::Text), 0.2));
+  painter->drawLine(option.rect.topRight(), option.rect.bottomRight());
+  painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+  if (current) {
+    const auto group = table->hasFocus() ? QPalette::Active : QPalette::Inactive;
+    painter->setPen(QPen(palette.color(group, QPalette::Highlight), 2));
+    painter->drawRect(option.rect.adjusted(1, 1, -2, -2));
+  }
   painter->restore();
 }
 

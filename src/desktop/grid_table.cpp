@@ -42,6 +42,7 @@ GridTable::GridTable(const ControlView& view, QWidget* parent)
   setVerticalScrollMode(ScrollPerItem);
   setHorizontalScrollMode(ScrollPerPixel);
   setWordWrap(false);
+  setShowGrid(false);  // the cells draw their lines: the style's cannot be seen on a dark background
   labels_->setSectionResizeMode(QHeaderView::Fixed);
   labels_->setDefaultSectionSize(RowHeight(font()));
   titles_->setMinimumSectionSize(2 * kCellMargin);

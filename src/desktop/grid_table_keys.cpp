@@ -175,7 +175,7 @@ bool GridTable::EditByKey(const QKeyEvent& event) {
     return true;
   }
   if (!GivesText(event)) return false;
-  const QString typed = event.text();
+  const QString typed = TypedBy(event);
   OpenEditor(&typed);
   return true;
 }

@@ -48,7 +48,9 @@ int HeadingWidth(const QFontMetrics& metrics, const QString& text) {
   return std::max(WidestWord(metrics, text), whole / 2 + 2 * letter);
 }
 
-QString Heading(const Grid& grid, int row, int col) { return ShownText(grid.TextMatrix(row, col)); }
+QString Heading(const Grid& grid, int row, int col) {
+  return BrokenAtBlanks(ShownText(grid.TextMatrix(row, col)));
+}
 
 }  // namespace
 
@@ -88,6 +90,11 @@ int HeadingHeight(const Grid& grid, const QFont& font, const std::vector<int>& w
     }
   }
   return height;
+}
+
+QString BrokenAtBlanks(QString heading) {
+  constexpr char16_t kWordJoiner = 0x2060;
+  return heading.replace(u'/', QString(u'/') + QChar(kWordJoiner));
 }
 
 int RowHeight(const QFont& font) { return QFontMetrics(font).height() + 6; }

@@ -10,8 +10,12 @@
 #include <QScrollBar>
 #include <QTest>
 
+#include "core/frmmain.h"
+#include "core/globals.h"
 #include "desktop/events.h"
 #include "desktop/grid_find.h"
+#include "inputedit/frminput.h"
+#include "inputedit/frmpin.h"
 #include "support/test_program.h"
 
 namespace tarnvik {
@@ -405,6 +409,82 @@ TEST_F(GridViewTest, the_mouse_selects_and_a_double_click_edits) {
   ASSERT_NE(Editor(), nullptr);
   Keys("6 Return");
   EXPECT_EQ(Body(), "//|6");
+}
+
+// --- On the grids of the example case
+
+class CaseGridViewTest : public ProgramTest {
+ protected:
+  void SetUp() override {
+    ProgramTest::SetUp();
+    host.files.push_back(CopyExample(folder));
+    frmMain->mnuFileOpen.UserClick();
+    host.messages.clear();
+  }
+  GridTable& Open(Grid& grid, int row, int col) {
+    view = std::make_unique<GridView>(grid, &window);
+    window.show();
+    view->Table()->Choose({{row, col}, {row, col}});
+    return *view->Table();
+  }
+  void TearDown() override {
+    view.reset();
+    ProgramTest::TearDown();
+  }
+  QWidget window;
+  std::unique_ptr<GridView> view;
+};
+
+TEST_F(CaseGridViewTest, a_block_of_bad_counts_is_warned_of_once) {
+  Grid& counts = frmInput->ORVFlexGrid(11);
+  GridTable& table = Open(counts, 1, 1);
+  QGuiApplication::clipboard()->setText(QStringLiteral("99\n3\n-1\n"));
+  table.Paste();
+  EXPECT_EQ(host.TakeTexts().size(), 1u);
+  EXPECT_EQ(counts.TextMatrix(1, 1) + counts.TextMatrix(2, 1) + counts.TextMatrix(3, 1), "636");
+  frmPin->frmNonParFishSel1.SetVisible(true);
+  EXPECT_FALSE(UserMayEdit(frmPin->ORVFlexGrid1(4), {2, 4})) << "out of use now";
+  EXPECT_TRUE(UserMayEdit(frmPin->ORVFlexGrid1(4), {2, 3}));
+}
+
+TEST_F(CaseGridViewTest, an_edit_of_one_survey_is_not_undone_in_another) {
+  Grid& index = frmInput->ORVFlexGrid(16);
+  GridTable& table = Open(index, 1, 1);
+  const std::string before = index.TextMatrix(1, 1);
+  table.ClearSelected();
+  EXPECT_EQ(SurvYearFit(1, 1, SurvFYear(1) - NFYear + 1), "") << "stored like typing";
+  table.Undo();
+  EXPECT_EQ(index.TextMatrix(1, 1), before);
+  table.ClearSelected();
+  UserEvent([] { frmInput->cmbiSurv.UserSelect(1); });
+  index.SetTextMatrix(1, 1, "");
+  table.Undo();
+  EXPECT_EQ(index.TextMatrix(1, 1), "");
+}
+
+TEST_F(CaseGridViewTest, condensing_ends_undo_and_the_buttons_of_the_frame_are_in_the_menu) {
+  Grid& ages = frmInput->ORVFlexGrid(1);
+  GridTable& table = Open(ages, 1, 1);
+  table.Choose({{1, 1}, {1, ages.Cols() - 1}});
+  table.ClearSelected();
+  UserEvent([] { frmInput->cmdCondenseGrd(1).UserClick(); });
+  ASSERT_EQ(ages.TextMatrix(1, 0), "1964");
+  const std::string first = ages.TextMatrix(1, 3);
+  table.Undo();
+  EXPECT_EQ(ages.TextMatrix(1, 3), first);
+  QContextMenuEvent click(QContextMenuEvent::Keyboard, {5, 5}, {5, 5});
+  QApplication::sendEvent(table.viewport(), &click);
+  const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  ASSERT_NE(menu, nullptr);
+  QAction* expand = nullptr;
+  for (QAction* action : menu->actions()) {
+    if (action->text().contains(QStringLiteral("Expand"))) expand = action;
+  }
+  ASSERT_NE(expand, nullptr);
+  expand->trigger();
+  EXPECT_EQ(ages.TextMatrix(1, 0), "1963");
+  EXPECT_EQ(table.model()->rowCount(), NYears);
+  QApplication::activePopupWidget()->close();
 }
 
 }  // namespace
