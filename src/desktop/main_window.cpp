@@ -308,6 +308,15 @@ void MainWindow::ShowClock() {
 
 // --- The window itself
 
+// A child that appears takes the front by itself; which one has it the logic says.
+void MainWindow::setVisible(bool visible) {
+  {
+    const Arranging arranging(arranging_);
+    QMainWindow::setVisible(visible);
+  }
+  if (visible) Settle();
+}
+
 void MainWindow::closeEvent(QCloseEvent* event) {
   if (ProgramRunning()) {
     CommitPendingEdits();

@@ -36,6 +36,8 @@ class MainWindow : public QMainWindow {
   // The child window of a form, null when it has none.
   FormWindow* WindowOf(const FormSlot& slot) const;
 
+  void setVisible(bool visible) override;
+
  protected:
   void closeEvent(QCloseEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
