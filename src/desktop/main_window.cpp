@@ -1,5 +1,6 @@
 #include "desktop/main_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDialog>
 #include <QFileInfo>
@@ -10,6 +11,7 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QSettings>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -118,7 +120,14 @@ MainWindow::MainWindow(DesktopHost& host)
   area_->setTabsMovable(true);
   area_->setDocumentMode(true);
   connect(area_, &QMdiArea::subWindowActivated, this,
-          [this](QMdiSubWindow* window) { UserTurnedTo(static_cast<FormWindow*>(window)); });
+          [this](QMdiSubWindow* window) { Activated(static_cast<FormWindow*>(window)); });
+  for (const bool forward : {true, false}) {
+    for (const char* keys :
+         {forward ? "Ctrl+Tab" : "Ctrl+Shift+Tab", forward ? "Ctrl+F6" : "Ctrl+Shift+F6"}) {
+      auto* shortcut = new QShortcut(QKeySequence(keys), this);
+      connect(shortcut, &QShortcut::activated, this, [this, forward] { TurnToNext(forward); });
+    }
+  }
 
   views_ = FillMenuBar(*menuBar(), *frmMain, window_menu_);
   connect(window_menu_, &QMenu::aboutToShow, this, [this] { FillWindowMenu(); });
@@ -214,9 +223,37 @@ void MainWindow::FormUnloaded(Form& form) {
   }
 }
 
-void MainWindow::UserTurnedTo(FormWindow* window) {
-  if (arranging_ || !window || FrontForm() == &window->Slot() || !window->Slot().Loaded()) return;
-  UserEvent([window] { ActivateForm(window->Slot()); });
+// Child windows also come to the front by themselves: when they appear, when another goes, when the program
+// does. The user's own way is the mouse; keys and menus say so themselves.
+void MainWindow::Activated(FormWindow* window) {
+  if (arranging_ || !window) return;
+  if (QApplication::mouseButtons() != Qt::NoButton) TurnTo(*window);
+  PutFrontFormInFront();
+}
+
+void MainWindow::TurnTo(FormWindow& window) {
+  if (FrontForm() == &window.Slot() || !window.Slot().Loaded()) return;
+  UserEvent([&window] { ActivateForm(window.Slot()); });
+}
+
+void MainWindow::TurnToNext(bool forward) {
+  CommitPendingEdits();
+  {
+    const Arranging arranging(arranging_);
+    if (forward) {
+      area_->activateNextSubWindow();
+    } else {
+      area_->activatePreviousSubWindow();
+    }
+  }
+  if (auto* window = static_cast<FormWindow*>(area_->activeSubWindow())) TurnTo(*window);
+}
+
+void MainWindow::PutFrontFormInFront() {
+  FormSlot* front = FrontForm();
+  FormWindow* window = front ? WindowOf(*front) : nullptr;
+  const Arranging arranging(arranging_);
+  if (window && area_->activeSubWindow() != window) area_->setActiveSubWindow(window);
 }
 
 void MainWindow::Settle() {
@@ -228,11 +265,7 @@ void MainWindow::Settle() {
     if (slot->Loaded()) WindowFor(*slot);
   }
   for (QMdiSubWindow* window : area_->subWindowList()) static_cast<FormWindow*>(window)->TakeTitle();
-  if (FormSlot* front = FrontForm(); front && dialogs_.empty()) {
-    FormWindow* window = WindowOf(*front);
-    const Arranging arranging(arranging_);
-    if (window && area_->activeSubWindow() != window) area_->setActiveSubWindow(window);
-  }
+  if (dialogs_.empty()) PutFrontFormInFront();
   const QString path = OpenCasePath();
   NoteRecentCase(path);
   setWindowTitle(path.isEmpty() ? "Tarnvik" : QFileInfo(path).fileName() + " - Tarnvik");
@@ -270,7 +303,10 @@ void MainWindow::FillWindowMenu() {
     QAction* action = window_menu_->addAction(QString("&%1 %2").arg(++number).arg(window->windowTitle()));
     action->setCheckable(true);
     action->setChecked(window == area_->activeSubWindow());
-    connect(action, &QAction::triggered, window, [this, window] { area_->setActiveSubWindow(window); });
+    connect(action, &QAction::triggered, window, [this, window] {
+      CommitPendingEdits();
+      TurnTo(*static_cast<FormWindow*>(window));
+    });
   }
 }
 
@@ -321,11 +357,9 @@ void MainWindow::closeEvent(QCloseEvent* event) {
   if (ProgramRunning()) {
     CommitPendingEdits();
     StorePlaces();
-    event->ignore();
-    UserEvent([] { UnloadForm(frmMain, UnloadMode::ByUser); });  // closes this window when nobody cancels
-    return;
+    UserEvent([] { UnloadForm(frmMain, UnloadMode::ByUser); });
   }
-  event->accept();
+  event->setAccepted(!ProgramRunning());
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {

@@ -48,7 +48,10 @@ class MainWindow : public QMainWindow {
   void FillWindowMenu();
   void FillRecentMenu();
   void ShowClock();
-  void UserTurnedTo(FormWindow* window);
+  void Activated(FormWindow* window);
+  void TurnTo(FormWindow& window);  // by the user's will
+  void TurnToNext(bool forward);
+  void PutFrontFormInFront();
   void RestorePlaces();
   void StorePlaces() const;
 
