@@ -19,8 +19,8 @@ constexpr int kLeastTextPixels = 8;
 constexpr int kDigitPixels = 8;  // a digit's width, generously
 constexpr int kTitleCharacters = 100;
 constexpr int kAxisTitleCharacters = 64;
-constexpr int kRowsOfPanel = 40;  // as many as can be labelled above each other
-constexpr int kMostPanels = 4;
+constexpr std::size_t kRowsOfPanel = 40;  // as many as can be labelled above each other
+constexpr std::size_t kMostPanels = 4;
 
 QFont ChartFont(int pixels, bool bold = false) {
   QFont font("DejaVu Sans");
@@ -151,29 +151,29 @@ void BuildUprightPanel(const Chart& chart, QCPAxisRect& panel) {
 
 // --- Horizontal bars: the first row, at the top, is the point of the highest number.
 
-int PanelCount(const Chart& chart) {
-  const int rows = static_cast<int>(PointCount(chart));
-  return std::clamp((rows + kRowsOfPanel - 1) / kRowsOfPanel, 1, kMostPanels);
+std::size_t PanelCount(const Chart& chart) {
+  return std::clamp<std::size_t>((PointCount(chart) + kRowsOfPanel - 1) / kRowsOfPanel, 1, kMostPanels);
 }
 
-int RowsOfPanel(const Chart& chart) {
-  const int panels = PanelCount(chart);
-  return std::max(1, (static_cast<int>(PointCount(chart)) + panels - 1) / panels);
+std::size_t RowsOfPanel(const Chart& chart) {
+  return std::max<std::size_t>(1, (PointCount(chart) + PanelCount(chart) - 1) / PanelCount(chart));
 }
 
 int RowTextPixels(const Chart& chart) {
   constexpr int kRoomForRows = 500;
-  return std::clamp(kRoomForRows * 4 / 5 / RowsOfPanel(chart), kLeastTextPixels, kTextPixels);
+  return std::clamp(kRoomForRows * 4 / 5 / static_cast<int>(RowsOfPanel(chart)), kLeastTextPixels,
+                    kTextPixels);
 }
 
-void BuildHorizontalPanel(const Chart& chart, QCPAxisRect& panel, int number) {
+// All panels have room for as many rows, so that all rows are of one height.
+void BuildHorizontalPanel(const Chart& chart, QCPAxisRect& panel, std::size_t number) {
   QCPAxis& rows = *panel.axis(QCPAxis::atLeft);
   QCPAxis& values = *panel.axis(QCPAxis::atBottom);
-  const double top = static_cast<double>(PointCount(chart)) + 0.5 - number * RowsOfPanel(chart);
-  rows.setRange(top - RowsOfPanel(chart), top);
+  const double top = static_cast<double>(PointsOfPanel(chart, number).second) + 0.5;
+  rows.setRange(top - static_cast<double>(RowsOfPanel(chart)), top);
   rows.grid()->setVisible(false);
   LabelPoints(rows, chart);
-  ScaleAxis(values, ValueScale(chart), 0.7 / PanelCount(chart));
+  ScaleAxis(values, ValueScale(chart), 0.7 / static_cast<double>(PanelCount(chart)));
   ShowZeroLine(values);
   if (number == 0) rows.setLabel(WrappedText(chart.AxisX.Title, kAxisTitleCharacters));
   if (number == PanelCount(chart) / 2) values.setLabel(WrappedText(chart.AxisY.Title, kAxisTitleCharacters));
@@ -186,7 +186,7 @@ std::vector<QCPAxisRect*> BuildPanels(const Chart& chart, QCustomPlot& plot) {
     return {panel};
   }
   std::vector<QCPAxisRect*> panels;
-  for (int number = 0; number < PanelCount(chart); ++number) {
+  for (std::size_t number = 0; number < PanelCount(chart); ++number) {
     panels.push_back(NewPanel(plot, RowTextPixels(chart)));
     BuildHorizontalPanel(chart, *panels.back(), number);
   }
@@ -223,10 +223,17 @@ QCPLegend* AddLegend(QCPLayoutGrid& grid, int column) {
   legend->setTextColor(QColor(kTextColour));
   legend->setBorderPen(QPen(QColor(kFrameColour)));
   legend->setIconSize(26, 14);
+  legend->setIconTextPadding(10);
   return legend;
 }
 
 }  // namespace
+
+std::pair<std::size_t, std::size_t> PointsOfPanel(const Chart& chart, std::size_t panel) {
+  const std::size_t count = PointCount(chart);
+  const std::size_t end = count - std::min(count, panel * RowsOfPanel(chart));
+  return {end - std::min(end, RowsOfPanel(chart)), end};
+}
 
 QString WrappedText(const std::string& text, int most) {
   QString line, wrapped;

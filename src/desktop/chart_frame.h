@@ -3,6 +3,7 @@
 
 #include <QString>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "desktop/chart_scales.h"
@@ -20,6 +21,9 @@ struct ChartFrame {
 
 // Empties the plot and builds the frame of the chart in it, its axes with their ranges.
 ChartFrame BuildFrame(const Chart& chart, QCustomPlot& plot);
+
+// The points whose rows stand in a panel of horizontal bars: the first and the one behind the last.
+std::pair<std::size_t, std::size_t> PointsOfPanel(const Chart& chart, std::size_t panel);
 
 // A text of the chart on one line, or on several of at most that many characters where it has blanks.
 QString WrappedText(const std::string& text, int most);

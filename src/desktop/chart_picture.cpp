@@ -26,7 +26,8 @@ constexpr int kHeight = 600;
 constexpr int kDotsPerInch = 96;
 
 std::string PngPicture(const Chart& chart) {
-  QImage image(kWidth, kHeight, QImage::Format_RGB32);
+  // One sheet for all pictures: a collection draws hundreds.
+  static QImage image(kWidth, kHeight, QImage::Format_RGB32);
   PaintChart(chart, image, kWidth, kHeight, Painting::Pixels);
   return PngBytes(image);
 }

@@ -27,7 +27,7 @@ Limits PlacesOf(const Chart& chart) {
   Limits limits;
   for (const ChartSeries& series : chart.AllSeries()) {
     for (std::size_t i = 0; i < series.Y.size(); ++i) {
-      if (IsDrawn(PlaceOf(series, i))) limits.Take(PlaceOf(series, i));
+      if (IsDrawn(PlaceOf(chart, series, i))) limits.Take(PlaceOf(chart, series, i));
     }
   }
   return limits;
@@ -50,7 +50,7 @@ bool AllPlacesWhole(const Chart& chart) {
   bool any = false;
   for (const ChartSeries& series : chart.AllSeries()) {
     for (std::size_t i = 0; i < series.Y.size(); ++i) {
-      const double place = PlaceOf(series, i);
+      const double place = PlaceOf(chart, series, i);
       if (!IsDrawn(place)) continue;
       if (std::abs(place) > 1e9 || place != std::floor(place)) return false;
       any = true;
@@ -90,34 +90,34 @@ Scale ScaleOf(const ChartAxis& axis, Limits data, double room) {
 
 }  // namespace
 
+bool IsHorizontal(const Chart& chart) { return chart.Gallery == 20; }
+
 Look LookOf(const Chart& chart, const ChartSeries& series) {
+  if (IsHorizontal(chart)) return Look::HorizontalBars;
   switch (series.Gallery.value_or(chart.Gallery.value_or(1))) {
     case 2:
+    case 20:
       return Look::Bars;
     case 4:
       return Look::Points;
     case 19:
       return Look::FilledCurve;
-    case 20:
-      return Look::HorizontalBars;
     default:
       return Look::Line;
   }
 }
 
-bool IsHorizontal(const Chart& chart) { return chart.Gallery == 20; }
-
 bool IsDrawn(double value) { return std::abs(value) < kLargest; }
 
-double PlaceOf(const ChartSeries& series, std::size_t point) {
-  return point < series.X.size() ? series.X[point] : static_cast<double>(point) + 1;
+double PlaceOf(const Chart& chart, const ChartSeries& series, std::size_t point) {
+  return !IsHorizontal(chart) && point < series.X.size() ? series.X[point] : static_cast<double>(point) + 1;
 }
 
 double BarSpacing(const Chart& chart) {
   std::vector<double> places;
   for (const ChartSeries& series : chart.AllSeries()) {
     for (std::size_t i = 0; i < series.Y.size(); ++i) {
-      if (IsDrawn(PlaceOf(series, i))) places.push_back(PlaceOf(series, i));
+      if (IsDrawn(PlaceOf(chart, series, i))) places.push_back(PlaceOf(chart, series, i));
     }
   }
   std::sort(places.begin(), places.end());

@@ -11,16 +11,17 @@ namespace tarnvik {
 // How a series is drawn.
 enum class Look { Line, Bars, Points, FilledCurve, HorizontalBars };
 
-Look LookOf(const Chart& chart, const ChartSeries& series);
-// Whether all of the chart lies on its side: points go up the vertical axis, values to the right.
+// Whether the chart lies on its side: points go up the vertical axis, values to the right. All series of such
+// a chart are horizontal bars, those of another never.
 bool IsHorizontal(const Chart& chart);
+Look LookOf(const Chart& chart, const ChartSeries& series);
 
 // Whether a value has a place in a picture: not the hidden marker, a number, and one that leaves room for
 // arithmetic.
 bool IsDrawn(double value);
 
-// Where a point stands: its x value or, where the chart has none, its number from 1.
-double PlaceOf(const ChartSeries& series, std::size_t point);
+// Where a point stands: its x value or, where there is none and among rows, its number from 1.
+double PlaceOf(const Chart& chart, const ChartSeries& series, std::size_t point);
 // The smallest distance between neighbouring places of a chart's bars, 1 where there are no neighbours.
 double BarSpacing(const Chart& chart);
 // The points of the series with the most of them.

@@ -18,7 +18,9 @@ constexpr double kBigMarker = 6.5;
 constexpr double kSmallMarker = 4.5;
 constexpr int kMarkersByYear = 3;
 constexpr int kLegendCharacters = 28;
-constexpr double kBarsShare = 0.8;  // of the distance between places
+constexpr std::size_t kRoomForBigMarkers = 60;  // points of a line
+constexpr double kBarsShare = 0.8;              // of the distance between places
+constexpr double kWidestBars = 1.0 / 8;         // of the picture: a few bars do not fill it
 
 // --- Lines and points
 
@@ -41,11 +43,11 @@ class MarkedGraph : public QCPGraph {
   }
 };
 
-QVector<QCPGraphData> PointsOf(const ChartSeries& series) {
+QVector<QCPGraphData> PointsOf(const Chart& chart, const ChartSeries& series) {
   QVector<QCPGraphData> points;
   points.reserve(static_cast<qsizetype>(series.Y.size()));
   for (std::size_t i = 0; i < series.Y.size(); ++i) {
-    const double place = PlaceOf(series, i);
+    const double place = PlaceOf(chart, series, i);
     if (!IsDrawn(place)) continue;
     // A value that is not a number interrupts the line.
     const double nothing = std::numeric_limits<double>::quiet_NaN();
@@ -73,131 +75,133 @@ QCPScatterStyle MarkerOf(std::size_t series, double size) {
   return {kShapes[series % std::size(kShapes)], QPen(colour), QBrush(colour), size};
 }
 
-class SeriesPainter {
- public:
-  SeriesPainter(const Chart& chart, const ChartFrame& frame) : chart_(chart), frame_(frame) {}
-
-  // Draws a series and returns what stands for it in the legend.
-  QCPAbstractPlottable* Add(std::size_t number) const {
-    const ChartSeries& series = chart_.AllSeries()[number];
-    if (IsHorizontal(chart_)) return AddHorizontalBars(number, series);
-    switch (LookOf(chart_, series)) {
-      case Look::Bars:
-      case Look::HorizontalBars:  // of a single series in an upright chart
-        return AddBars(number, series);
-      case Look::Points:
-        return AddPoints(number, series);
-      case Look::FilledCurve:
-        return AddFilledCurve(number, series);
-      case Look::Line:
-        break;
-    }
-    return AddLine(number, series);
-  }
-
- private:
-  QCPAxis* Bottom(std::size_t panel = 0) const { return frame_.panels[panel]->axis(QCPAxis::atBottom); }
-  QCPAxis* Left(std::size_t panel = 0) const { return frame_.panels[panel]->axis(QCPAxis::atLeft); }
-
-  bool HasPoints() const {
-    const auto& all = chart_.AllSeries();
-    return std::any_of(all.begin(), all.end(),
-                       [&](const auto& s) { return LookOf(chart_, s) == Look::Points; });
-  }
-
-  MarkedGraph* NewGraph(const QVector<QCPGraphData>& points) const {
-    auto* graph = new MarkedGraph(Bottom(), Left());
-    graph->data()->set(points);
-    return graph;
-  }
-
-  QCPAbstractPlottable* AddPoints(std::size_t number, const ChartSeries& series) const {
-    MarkedGraph* graph = NewGraph(PointsOf(series));
-    graph->setLineStyle(QCPGraph::lsNone);
-    graph->setScatterStyle(MarkerOf(number, kBigMarker));
-    return graph;
-  }
-
-  // A line among observed points has no markers of its own: it is what the model expects between them.
-  QCPAbstractPlottable* AddLine(std::size_t number, const ChartSeries& series) const {
-    const double size = chart_.MarkerSetting.value_or(0) == kMarkersByYear && series.Y.size() <= 60
-                            ? kBigMarker
-                            : kSmallMarker;
-    const QVector<QCPGraphData> points = PointsOf(series);
-    MarkedGraph* graph = NewGraph(points);
-    graph->setPen(QPen(SeriesColour(number), kLineWidth));
-    if (!HasPoints()) {
-      graph->setScatterStyle(MarkerOf(number, size));
-    } else if (const auto lone = LonePoints(points); !lone.isEmpty()) {
-      MarkedGraph* markers = NewGraph(lone);
-      markers->setLineStyle(QCPGraph::lsNone);
-      markers->setScatterStyle(MarkerOf(number, size));
-    }
-    return graph;
-  }
-
-  QCPAbstractPlottable* AddFilledCurve(std::size_t number, const ChartSeries& series) const {
-    MarkedGraph* graph = NewGraph(PointsOf(series));
-    const QColor shade = ShadeColour(number, chart_.AllSeries().size());
-    graph->setBrush(shade);
-    graph->setPen(QPen(shade.darker(130), 1));
-    return graph;
-  }
-
-  // --- Bars
-
-  // Bars of several series stand side by side: which of them this is, and how many there are.
-  std::pair<int, int> BarsSlot(std::size_t number) const {
-    int before = 0;
-    int all = 0;
-    for (std::size_t s = 0; s < chart_.AllSeries().size(); ++s) {
-      const Look look = LookOf(chart_, chart_.AllSeries()[s]);
-      if (look != Look::Bars && look != Look::HorizontalBars) continue;
-      ++all;
-      if (s < number) ++before;
-    }
-    return {before, all};
-  }
-
-  QCPBars* NewBars(std::size_t number, QCPAxis* places, QCPAxis* values, double room,
-                   const ChartSeries& series) const {
-    const auto [before, all] = BarsSlot(number);
-    const double width = room / all;
-    QVector<QCPBarsData> data;
-    for (std::size_t i = 0; i < series.Y.size(); ++i) {
-      if (!IsDrawn(PlaceOf(series, i)) || !IsDrawn(series.Y[i])) continue;
-      data.append({PlaceOf(series, i) + width * (before - (all - 1) / 2.0), series.Y[i]});
-    }
-    auto* bars = new QCPBars(places, values);
-    bars->data()->set(data);
-    bars->setWidth(width);
-    bars->setAntialiased(false);
-    bars->setBrush(SeriesColour(number));
-    bars->setPen(QPen(SeriesColour(number).darker(140)));
-    return bars;
-  }
-
-  QCPAbstractPlottable* AddBars(std::size_t number, const ChartSeries& series) const {
-    // A few bars do not fill the picture.
-    constexpr double kWidestShare = 1.0 / 8;
-    const double room = std::min(kBarsShare * BarSpacing(chart_), Bottom()->range().size() * kWidestShare);
-    return NewBars(number, Bottom(), Left(), room, series);
-  }
-
-  QCPAbstractPlottable* AddHorizontalBars(std::size_t number, const ChartSeries& series) const {
-    ChartSeries rows = series;
-    rows.X.clear();  // the points stand above each other by their numbers
-    QCPAbstractPlottable* first = nullptr;
-    for (std::size_t panel = 0; panel < frame_.panels.size(); ++panel) {
-      QCPBars* bars = NewBars(number, Left(panel), Bottom(panel), kBarsShare, rows);
-      if (!first) first = bars;
-    }
-    return first;
-  }
-
-  const Chart& chart_;
-  const ChartFrame& frame_;
+// What a series is drawn from and on.
+struct Sheet {
+  const Chart& chart;
+  const ChartFrame& frame;
+  QCPAxis* Bottom(std::size_t panel = 0) const { return frame.panels[panel]->axis(QCPAxis::atBottom); }
+  QCPAxis* Left(std::size_t panel = 0) const { return frame.panels[panel]->axis(QCPAxis::atLeft); }
 };
+
+MarkedGraph* NewGraph(const Sheet& sheet, const QVector<QCPGraphData>& points) {
+  auto* graph = new MarkedGraph(sheet.Bottom(), sheet.Left());
+  graph->data()->set(points);
+  return graph;
+}
+
+MarkedGraph* NewMarkers(const Sheet& sheet, const QVector<QCPGraphData>& points,
+                        const QCPScatterStyle& marker) {
+  MarkedGraph* graph = NewGraph(sheet, points);
+  graph->setLineStyle(QCPGraph::lsNone);
+  graph->setScatterStyle(marker);
+  return graph;
+}
+
+bool HasPoints(const Chart& chart) {
+  const auto& all = chart.AllSeries();
+  return std::any_of(all.begin(), all.end(), [&](const auto& s) { return LookOf(chart, s) == Look::Points; });
+}
+
+QCPAbstractPlottable* AddPoints(const Sheet& sheet, std::size_t number) {
+  return NewMarkers(sheet, PointsOf(sheet.chart, sheet.chart.AllSeries()[number]),
+                    MarkerOf(number, kBigMarker));
+}
+
+// A line among observed points has no markers of its own: it is what the model expects between them.
+QCPAbstractPlottable* AddLine(const Sheet& sheet, std::size_t number) {
+  const ChartSeries& series = sheet.chart.AllSeries()[number];
+  const bool big = sheet.chart.MarkerSetting == kMarkersByYear && series.Y.size() <= kRoomForBigMarkers;
+  const QCPScatterStyle marker = MarkerOf(number, big ? kBigMarker : kSmallMarker);
+  const QVector<QCPGraphData> points = PointsOf(sheet.chart, series);
+  MarkedGraph* graph = NewGraph(sheet, points);
+  graph->setPen(QPen(SeriesColour(number), kLineWidth));
+  if (!HasPoints(sheet.chart)) {
+    graph->setScatterStyle(marker);
+  } else if (const auto lone = LonePoints(points); !lone.isEmpty()) {
+    NewMarkers(sheet, lone, marker);
+  }
+  return graph;
+}
+
+QCPAbstractPlottable* AddFilledCurve(const Sheet& sheet, std::size_t number) {
+  MarkedGraph* graph = NewGraph(sheet, PointsOf(sheet.chart, sheet.chart.AllSeries()[number]));
+  const QColor shade = ShadeColour(number, sheet.chart.AllSeries().size());
+  graph->setBrush(shade);
+  graph->setPen(QPen(shade.darker(130), 1));
+  return graph;
+}
+
+// --- Bars
+
+// Bars of several series stand side by side: how many stand before this one's, and how many there are.
+std::pair<int, int> PlaceAmongBars(const Chart& chart, std::size_t number) {
+  int before = 0;
+  int all = 0;
+  for (std::size_t s = 0; s < chart.AllSeries().size(); ++s) {
+    const Look look = LookOf(chart, chart.AllSeries()[s]);
+    if (look != Look::Bars && look != Look::HorizontalBars) continue;
+    ++all;
+    if (s < number) ++before;
+  }
+  return {before, std::max(all, 1)};
+}
+
+// The bars of the points from the first to the one before the last. `room` is what the bars of all series at
+// one place take. SVG pictures cut nothing off: what does not belong into a panel must not be drawn there.
+QCPBars* NewBars(const Sheet& sheet, std::size_t number, std::size_t first, std::size_t last, QCPAxis* places,
+                 QCPAxis* values, double room) {
+  const ChartSeries& series = sheet.chart.AllSeries()[number];
+  const auto [before, all] = PlaceAmongBars(sheet.chart, number);
+  const double width = room / all;
+  const double shift = width * (before - (all - 1) / 2.0);
+  QVector<QCPBarsData> data;
+  for (std::size_t i = first; i < std::min(last, series.Y.size()); ++i) {
+    const double place = PlaceOf(sheet.chart, series, i);
+    if (IsDrawn(place) && IsDrawn(series.Y[i])) data.append({place + shift, series.Y[i]});
+  }
+  auto* bars = new QCPBars(places, values);
+  bars->data()->set(data);
+  bars->setWidth(width);
+  bars->setAntialiased(false);
+  bars->setBrush(SeriesColour(number));
+  bars->setPen(QPen(SeriesColour(number).darker(140)));
+  return bars;
+}
+
+QCPAbstractPlottable* AddBars(const Sheet& sheet, std::size_t number) {
+  const double room =
+      std::min(kBarsShare * BarSpacing(sheet.chart), sheet.Bottom()->range().size() * kWidestBars);
+  return NewBars(sheet, number, 0, PointCount(sheet.chart), sheet.Bottom(), sheet.Left(), room);
+}
+
+QCPAbstractPlottable* AddHorizontalBars(const Sheet& sheet, std::size_t number) {
+  QCPAbstractPlottable* first = nullptr;
+  for (std::size_t panel = 0; panel < sheet.frame.panels.size(); ++panel) {
+    const auto [from, to] = PointsOfPanel(sheet.chart, panel);
+    QCPBars* bars = NewBars(sheet, number, from, to, sheet.Left(panel), sheet.Bottom(panel), kBarsShare);
+    if (!first) first = bars;
+  }
+  return first;
+}
+
+// --- All series
+
+// Draws a series and returns what stands for it in the legend.
+QCPAbstractPlottable* AddSeries(const Sheet& sheet, std::size_t number) {
+  switch (LookOf(sheet.chart, sheet.chart.AllSeries()[number])) {
+    case Look::Bars:
+      return AddBars(sheet, number);
+    case Look::HorizontalBars:
+      return AddHorizontalBars(sheet, number);
+    case Look::Points:
+      return AddPoints(sheet, number);
+    case Look::FilledCurve:
+      return AddFilledCurve(sheet, number);
+    case Look::Line:
+      break;
+  }
+  return AddLine(sheet, number);
+}
 
 // What is drawn first lies below. Fills are below everything, the widest, which comes last, below the others;
 // points lie on lines.
@@ -217,9 +221,9 @@ std::vector<std::size_t> DrawingOrder(const Chart& chart) {
 
 void FillPlot(const Chart& chart, QCustomPlot& plot) {
   const ChartFrame frame = BuildFrame(chart, plot);
-  const SeriesPainter painter(chart, frame);
+  const Sheet sheet{chart, frame};
   std::vector<QCPAbstractPlottable*> drawn(chart.AllSeries().size());
-  for (const std::size_t number : DrawingOrder(chart)) drawn[number] = painter.Add(number);
+  for (const std::size_t number : DrawingOrder(chart)) drawn[number] = AddSeries(sheet, number);
   for (std::size_t number = 0; number < drawn.size(); ++number) {
     drawn[number]->setName(WrappedText(chart.AllSeries()[number].Legend, kLegendCharacters));
     if (frame.legend) drawn[number]->addToLegend(frame.legend);
