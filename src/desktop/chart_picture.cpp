@@ -4,6 +4,7 @@
 #include <QImage>
 #include <QPdfWriter>
 #include <QSvgGenerator>
+#include <algorithm>
 #include <filesystem>
 
 #include "core/text.h"
@@ -60,7 +61,7 @@ std::string PdfPicture(const Chart& chart) {
 }
 
 std::string PictureFor(const Chart& chart, const std::string& path) {
-  const std::string ending = LCase(fs::path(path).extension().string());
+  const std::string ending = LCase(path.substr(path.size() - std::min<std::size_t>(path.size(), 4)));
   if (ending == ".svg") return SvgPicture(chart);
   return ending == ".pdf" ? PdfPicture(chart) : PngPicture(chart);
 }

@@ -76,6 +76,11 @@ Scale ScaleOf(const ChartAxis& axis, Limits data, double room) {
   if (!std::isfinite(limits.lower) && !std::isfinite(limits.upper)) return scale;
   if (!std::isfinite(limits.lower)) limits.lower = limits.upper;
   if (!std::isfinite(limits.upper)) limits.upper = limits.lower;
+  // Limits that leave nothing between them, over data that has an extent, are no limits.
+  if (limits.lower == limits.upper && data.Any()) {
+    limits.Take(data.lower);
+    limits.Take(data.upper);
+  }
   // A limit of the chart's and one of the data may lie the wrong way round.
   scale.lower = std::min(limits.lower, limits.upper);
   scale.upper = std::max(limits.lower, limits.upper);
