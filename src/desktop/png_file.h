@@ -6,8 +6,9 @@
 
 namespace tarnvik {
 
-// True colours without transparency, no row filters, little compression: for charts the file is as small as
-// with filters and takes a fifth of the time. Raises 7 "Out of memory".
+// True colours without transparency, nothing lost. Made for charts, where most pixels are those above and to
+// the left: it looks for nothing else, and so takes a tenth of the time of a general compressor. The picture
+// must not be empty.
 std::string PngBytes(const QImage& picture);
 
 }  // namespace tarnvik
