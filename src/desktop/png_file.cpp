@@ -71,7 +71,8 @@ constexpr auto kLiterals = [] {
 // By the number of pixels; that of none is not used.
 constexpr auto kRuns = [] {
   std::array<Code, kLongestRun + 1> codes;
-  for (std::uint32_t pixels = 1; pixels <= kLongestRun; ++pixels) codes[pixels] = MatchOf(pixels * kPixelBytes);
+  for (std::uint32_t pixels = 1; pixels <= kLongestRun; ++pixels)
+    codes[pixels] = MatchOf(pixels * kPixelBytes);
   return codes;
 }();
 
@@ -90,7 +91,8 @@ class Deflated {
   }
 
   void Pixel(QRgb pixel) {
-    for (const int byte : {qRed(pixel), qGreen(pixel), qBlue(pixel)}) Literal(static_cast<std::uint32_t>(byte));
+    for (const int byte : {qRed(pixel), qGreen(pixel), qBlue(pixel)})
+      Literal(static_cast<std::uint32_t>(byte));
   }
 
   // The pixel that was written last, that many times more.
@@ -103,7 +105,8 @@ class Deflated {
     const auto red = static_cast<std::uint64_t>(qRed(pixel));
     const auto green = static_cast<std::uint64_t>(qGreen(pixel));
     const std::uint64_t pixel_sum = red + green + static_cast<std::uint64_t>(qBlue(pixel));
-    sum_of_sums_ += times * (3 * sum_ + 2 * red + green + pixel_sum) + 3 * pixel_sum * (times * (times - 1) / 2);
+    sum_of_sums_ +=
+        times * (3 * sum_ + 2 * red + green + pixel_sum) + 3 * pixel_sum * (times * (times - 1) / 2);
     sum_ += times * pixel_sum;
   }
 
@@ -216,8 +219,8 @@ std::string PngBytes(const QImage& picture) {
   const auto side = [](int length) { return Number(static_cast<std::uint32_t>(length)); };
   return "\x89PNG\r\n\x1a\n" +
          Chunk("IHDR", side(pixels.width()) + side(pixels.height()) + std::string(kEightBitsOfRgb, 5)) +
-         Chunk("pHYs", Number(kDotsPerMetre) + Number(kDotsPerMetre) + "\x01") +
-         Chunk("IDAT", Rows(pixels)) + Chunk("IEND", "");
+         Chunk("pHYs", Number(kDotsPerMetre) + Number(kDotsPerMetre) + "\x01") + Chunk("IDAT", Rows(pixels)) +
+         Chunk("IEND", "");
 }
 
 }  // namespace tarnvik

@@ -8,6 +8,7 @@
 #include <filesystem>
 
 #include "desktop/chart_palette.h"
+#include "desktop/png_file.h"
 #include "support/test_program.h"
 
 namespace tarnvik {
@@ -230,6 +231,26 @@ TEST_F(ChartPicture, png_reads_back_at_its_size_with_titles_and_colours) {
   EXPECT_EQ(Picture("again.PNG"), image);
   Fill(1990, {{H, H, H}});
   EXPECT_EQ(Count(Picture(), series), 0);
+}
+
+TEST(PngBytes, lose_nothing) {
+  const std::pair<int, int> sizes[] = {{1, 1}, {2, 3}, {87, 2}, {88, 2}, {900, 5}, {4000, 3}};
+  std::uint32_t state = 1;
+  const auto random = [&state] { return (state = state * 1664525 + 1013904223) >> 8; };
+  for (const auto& [width, height] : sizes) {
+    for (const std::uint32_t changes : {0u, 1u, 100u, 1000u}) {  // how many pixels in a thousand differ
+      QImage picture(width, height, QImage::Format_RGB32);
+      QRgb colour = 0xff0072b2;
+      for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+          if (random() % 1000 < changes) colour = 0xff000000 | random();
+          picture.setPixel(x, y, colour);
+        }
+      }
+      const QImage read = QImage::fromData(QByteArray::fromStdString(PngBytes(picture)), "PNG");
+      EXPECT_EQ(read.convertToFormat(QImage::Format_RGB32), picture) << width << " " << changes;
+    }
+  }
 }
 
 TEST_F(ChartPicture, ending_decides_on_vectors) {
