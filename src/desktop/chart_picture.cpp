@@ -83,11 +83,16 @@ void RequireWritable(const std::string& path) {
 // Writes beside the file and puts the result in its place.
 void ReplaceFile(const std::string& path, const std::string& bytes) {
   std::error_code error;
-  const fs::path target = fs::is_symlink(path, error) ? fs::weakly_canonical(path, error) : fs::path(path);
+  fs::path target = path;
+  fs::file_status there = fs::symlink_status(target, error);
+  if (fs::is_symlink(there)) {
+    target = fs::weakly_canonical(path, error);
+    there = fs::status(target, error);
+  }
   // A device, and what cannot be a file, is told by the attempt.
-  if (error || (fs::exists(target, error) && !fs::is_regular_file(target, error)))
-    return WriteFile(path, bytes);
-  if (fs::exists(target, error)) RequireWritable(target.string());
+  const bool exists = fs::exists(there);
+  if (exists && !fs::is_regular_file(there)) return WriteFile(path, bytes);
+  if (exists) RequireWritable(target.string());
   const std::string beside = target.string() + ".new";
   try {
     WriteFile(beside, bytes);

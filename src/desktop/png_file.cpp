@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <cstring>
 #include <string_view>
 #include <vector>
 
@@ -120,6 +121,7 @@ class Deflated {
   std::string Finish() {
     Put(CodeOf(256));
     Put({0, (8 - count_ % 8) % 8});
+    PassOn(count_ / 8);
     ReduceSums();
     for (const std::uint64_t sum : {sum_of_sums_, sum_}) {
       bytes_ += static_cast<char>(sum >> 8);
@@ -132,11 +134,19 @@ class Deflated {
   void Put(const Code& code) {
     pending_ |= std::uint64_t{code.bits} << count_;
     count_ += code.count;
-    for (; count_ >= 8; count_ -= 8, pending_ >>= 8) bytes_ += static_cast<char>(pending_ & 0xff);
+    if (count_ >= 32) PassOn(4);
+  }
+
+  void PassOn(int whole_bytes) {
+    char bytes[8];
+    for (int i = 0; i < whole_bytes; ++i) bytes[i] = static_cast<char>((pending_ >> (8 * i)) & 0xff);
+    bytes_.append(bytes, static_cast<std::size_t>(whole_bytes));
+    pending_ >>= 8 * whole_bytes;
+    count_ -= 8 * whole_bytes;
   }
 
   std::string bytes_;
-  std::uint64_t pending_ = 0;  // bits that do not fill a byte yet
+  std::uint64_t pending_ = 0;  // bits that wait for more, fewer than 32 of them
   int count_ = 0;
   std::uint64_t sum_ = 1;  // the checksum of the stream: of its bytes, and of these sums
   std::uint64_t sum_of_sums_ = 0;
@@ -150,11 +160,27 @@ QRgb Difference(QRgb pixel, QRgb other) {
   return ((pixel | kHigh) - (other & ~kHigh)) ^ ((pixel ^ ~other) & kHigh);
 }
 
+// How many pixels are certainly the same, in steps of many.
+std::size_t SamePixels(const QRgb* pixels, const QRgb* others, std::size_t count) {
+  constexpr std::size_t kStep = 32;
+  std::size_t same = 0;
+  while (same + kStep <= count && std::memcmp(pixels + same, others + same, kStep * sizeof(QRgb)) == 0) {
+    same += kStep;
+  }
+  return same;
+}
+
 void AddRow(Deflated& stream, const QRgb* pixels, const QRgb* others, std::size_t width) {
   std::uint64_t repeated = 0;
   QRgb last = Difference(pixels[0], others[0]);
   stream.Pixel(last);
   for (std::size_t x = 1; x < width; ++x) {
+    if (last == 0) {
+      const std::size_t same = SamePixels(pixels + x, others + x, width - x);
+      repeated += same;
+      x += same;
+      if (x == width) break;
+    }
     const QRgb difference = Difference(pixels[x], others[x]);
     if (difference == last) {
       ++repeated;
