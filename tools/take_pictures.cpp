@@ -1,5 +1,6 @@
 // tarnvik-pictures FOLDER CASE.ctl [--dark] [--size WIDTHxHEIGHT]: writes a picture of every page of every
-// form, with the case open and its results scanned, as a user would see them. The case is run in a copy.
+// form, with the case open and its results scanned, as a user would see them. All happens in a copy of the
+// case, which is run first unless its results lie beside it.
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
@@ -117,7 +118,7 @@ void UseDarkPalette() {
 
 void CopyCase(const QString& ctl, const QString& folder, QString& copy) {
   const QFileInfo info(ctl);
-  const QStringList endings = {"ctl", "dat", "pin"};
+  const QStringList endings = {"ctl", "dat", "pin", "rep", "par", "std"};
   for (const QString& ending : endings) {
     QFile::copy(info.dir().filePath(info.completeBaseName() + "." + ending),
                 QDir(folder).filePath(info.fileName().chopped(3) + ending));
@@ -140,7 +141,9 @@ void TakeAll(PictureHost& host, const Camera& camera, const std::string& ctl) {
   camera.TakeForm(*frmInput);
   host.files.push_back(ctl);
   RunEvent([] { frmMain->mnuFileOpen.UserClick(); });
-  RunEvent([] { frmMain->mnuModelRun.UserClick(); });
+  const bool has_results = FileExists(ctl.substr(0, ctl.size() - 3) + "rep");
+  MenuItem& results = has_results ? frmMain->mnuModelScan : frmMain->mnuModelRun;
+  RunEvent([&results] { results.UserClick(); });
   RunEvent([] { frmMain->mnuDataPlotInput.UserClick(); });
   for (FormSlot* slot : {static_cast<FormSlot*>(&frmInput), static_cast<FormSlot*>(&frmPin),
                          static_cast<FormSlot*>(&frmOutputData), static_cast<FormSlot*>(&frmSTD),

@@ -61,6 +61,8 @@ class ChartPlot : public QCustomPlot {
     setInteractions(QCP::iRangeZoom | QCP::iRangeDrag);
     setSelectionRectMode(QCP::srmZoom);
     axisRect()->setRangeZoomFactor(kZoomStep);
+    // A hundred years up and down as one path take the painter most of a second; as segments nothing.
+    setPlottingHint(QCP::phFastPolylines);
     setWhatsThis(
         "Turn the wheel or draw a frame to zoom; hold Shift and drag to move; double-click for the whole.");
   }
