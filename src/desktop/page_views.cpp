@@ -76,11 +76,12 @@ PagesView::PagesView(TabStrip& tabs, QWidget* parent)
     layout->setSpacing(0);
   }
   Turner()->setAccessibleName("Pages");
-  Turner()->setToolTip("Ctrl+Page Down and Ctrl+Page Up turn the pages");
   layout->addWidget(Turner());
   pages_ = new QStackedWidget(widget_);
   layout->addWidget(pages_, 1);
   for (int page = 0; page < tabs.Tabs(); ++page) pages_->addWidget(MakePage(pages_));
+  if (tabs.Container()) return;  // the keys turn the pages of the outermost
+  Turner()->setToolTip("Ctrl+Page Down and Ctrl+Page Up turn the pages");
   for (const int step : {1, -1}) {
     auto* key = new QShortcut(step > 0 ? Qt::CTRL | Qt::Key_PageDown : Qt::CTRL | Qt::Key_PageUp, widget_);
     key->setContext(Qt::WidgetWithChildrenShortcut);
