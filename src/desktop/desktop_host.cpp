@@ -12,6 +12,7 @@
 #include <QUrl>
 
 #include "desktop/chart_picture.h"
+#include "desktop/edit_history.h"
 #include "desktop/events.h"
 #include "desktop/main_window.h"
 #include "desktop/menu_view.h"
@@ -117,6 +118,7 @@ std::optional<std::string> DesktopHost::ShowFileDialog(const FileDialog& dialog)
     path = TypedText(AskForFile(QApplication::activeWindow(), dialog));
   }
   if (path.empty()) return std::nullopt;
+  EndEditHistory();  // there is no undoing what a file brings
   if (dialog.moves_current_folder) MoveToFolderOf(path);
   return path;
 }
