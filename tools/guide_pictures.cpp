@@ -141,7 +141,7 @@ class Walk {
     Take("survey-index");
     Do([] {
       frmOutput->SSTab1.SetTab(kPlotBiomassTotals);
-      frmOutput->Option6(1).UserClick();
+      frmOutput->Option6(1).SetValue(true);
       frmOutput->txtSTDplus(0).SetText("1.96");
       frmOutput->txtSTDminus(0).SetText("1.96");
       frmOutput->cmdPlot6.UserClick();
@@ -173,7 +173,10 @@ class Walk {
     } else if (const auto found = dialogs_.find(dialog->objectName()); found != dialogs_.end()) {
       const Meeting meeting = found->second;
       dialogs_.erase(found);
-      if (frmVPAIndices.Loaded()) AssignIndices();
+      if (frmVPAIndices.Loaded()) {
+        dialog->resize(1000, 420);
+        AssignIndices();
+      }
       QApplication::processEvents();
       Save(meeting.picture, WithOver(*dialog, Middle(*dialog)));
       UserEvent(meeting.answer);

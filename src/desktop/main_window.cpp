@@ -180,7 +180,10 @@ FormWindow& MainWindow::WindowFor(FormSlot& slot) {
   const QVariant place = QSettings().value("places/" + ShownText(slot.Name()));
   window->show();
   if (area_->viewMode() == QMdiArea::SubWindowView && place.isValid()) window->setGeometry(place.toRect());
-  if (active) area_->setActiveSubWindow(active);
+  if (active) {
+    area_->setActiveSubWindow(active);
+    active->raise();  // as it was active all along, nothing else brings it above the new one
+  }
   return *window;
 }
 
