@@ -224,6 +224,7 @@ QCPLegend* AddLegend(QCPLayoutGrid& grid, int column) {
   legend->setBorderPen(QPen(QColor(kFrameColour)));
   legend->setIconSize(26, 14);
   legend->setIconTextPadding(10);
+  legend->setRowSpacing(1);
   return legend;
 }
 

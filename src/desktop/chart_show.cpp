@@ -226,7 +226,10 @@ void FillPlot(const Chart& chart, QCustomPlot& plot) {
   for (const std::size_t number : DrawingOrder(chart)) drawn[number] = AddSeries(sheet, number);
   for (std::size_t number = 0; number < drawn.size(); ++number) {
     drawn[number]->setName(WrappedText(chart.AllSeries()[number].Legend, kLegendCharacters));
-    if (frame.legend) drawn[number]->addToLegend(frame.legend);
+    if (!frame.legend) continue;
+    drawn[number]->addToLegend(frame.legend);
+    // The strokes below the line of writing are to be seen whole.
+    frame.legend->item(frame.legend->itemCount() - 1)->setMargins(QMargins(0, 1, 0, 2));
   }
 }
 
