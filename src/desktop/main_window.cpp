@@ -180,10 +180,7 @@ FormWindow& MainWindow::WindowFor(FormSlot& slot) {
   const QVariant place = QSettings().value("places/" + ShownText(slot.Name()));
   window->show();
   if (area_->viewMode() == QMdiArea::SubWindowView && place.isValid()) window->setGeometry(place.toRect());
-  if (active) {
-    area_->setActiveSubWindow(active);
-    active->raise();  // as it was active all along, nothing else brings it above the new one
-  }
+  if (active) area_->setActiveSubWindow(active);
   return *window;
 }
 
@@ -256,7 +253,9 @@ void MainWindow::PutFrontFormInFront() {
   FormSlot* front = FrontForm();
   FormWindow* window = front ? WindowOf(*front) : nullptr;
   const Arranging arranging(arranging_);
-  if (window && area_->activeSubWindow() != window) area_->setActiveSubWindow(window);
+  if (!window) return;
+  if (area_->activeSubWindow() != window) area_->setActiveSubWindow(window);
+  window->raise();  // one that was active all along may have another that has appeared above it
 }
 
 void MainWindow::Settle() {
