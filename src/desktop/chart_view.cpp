@@ -60,7 +60,6 @@ class ChartPlot : public QCustomPlot {
     setFocusPolicy(Qt::StrongFocus);
     setInteractions(QCP::iRangeZoom | QCP::iRangeDrag);
     setSelectionRectMode(QCP::srmZoom);
-    axisRect()->setRangeZoomFactor(kZoomStep);
     // A hundred years up and down as one path take the painter most of a second; as segments nothing.
     setPlottingHint(QCP::phFastPolylines);
     setWhatsThis(
@@ -110,13 +109,13 @@ class ChartPlot : public QCustomPlot {
       case Qt::Key_Minus:
         return Zoom(1 / kZoomStep);
       case Qt::Key_Left:
-        return Move(*xAxis, -kMoveStep);
+        return Move(Qt::Horizontal, -kMoveStep);
       case Qt::Key_Right:
-        return Move(*xAxis, kMoveStep);
+        return Move(Qt::Horizontal, kMoveStep);
       case Qt::Key_Down:
-        return Move(*yAxis, -kMoveStep);
+        return Move(Qt::Vertical, -kMoveStep);
       case Qt::Key_Up:
-        return Move(*yAxis, kMoveStep);
+        return Move(Qt::Vertical, kMoveStep);
       case Qt::Key_Home:
         return draw();
       default:
@@ -125,12 +124,23 @@ class ChartPlot : public QCustomPlot {
   }
 
  private:
+  // A drawing has axes of its own, and may have several panels.
+  void OnAxes(Qt::Orientation orientation, const std::function<void(QCPAxis&)>& act) {
+    const QList<QCPAxisRect*> panels = axisRects();
+    for (QCPAxisRect* panel : panels) {
+      if (QCPAxis* axis = panel->rangeZoomAxis(orientation)) act(*axis);
+    }
+  }
   void Zoom(double factor) {
-    for (QCPAxis* axis : {xAxis, yAxis}) axis->scaleRange(factor);
+    for (const Qt::Orientation orientation : {Qt::Horizontal, Qt::Vertical}) {
+      OnAxes(orientation, [factor](QCPAxis& axis) { axis.scaleRange(factor); });
+    }
     replot();
   }
-  void Move(QCPAxis& axis, double share) {
-    axis.moveRange(axis.range().size() * (axis.rangeReversed() ? -share : share));
+  void Move(Qt::Orientation orientation, double share) {
+    OnAxes(orientation, [share](QCPAxis& axis) {
+      axis.moveRange(axis.range().size() * (axis.rangeReversed() ? -share : share));
+    });
     replot();
   }
 };
