@@ -23,9 +23,8 @@ void EnsureApplication() {
   static char* arguments[] = {program, option, platform, nullptr};
   static int count = 3;
   qInstallMessageHandler(TellFaultsAlone);
-  // Never destroyed: at the end of the process other libraries may be gone before it.
-  static const auto* const application = new QApplication(count, arguments);
-  static_cast<void>(application);
+  // Destroyed at the end of the process, before the libraries that it stands on.
+  static const QApplication application(count, arguments);
   // The application takes over the user's locale; numbers are written with a point all the same.
   std::setlocale(LC_NUMERIC, "C");
 }
