@@ -29,7 +29,6 @@ constexpr const char* kSurveyList = "tarnvik_survey_list.txt";
 constexpr const char* kConverterErrors = "vpa2tarnvik_error.log";
 
 void Warn(const std::string& text) { ShowMessage(text, Icon::Exclamation); }
-void TellFailure(const std::string& reason) { Warn("Import VPA Failed - " + reason); }
 
 void DeleteWhereThere(const std::string& path) {
   if (FileExists(path)) DeleteExistingFile(path);
@@ -105,7 +104,7 @@ bool AskForVpaFile(std::string& path) {
                               .default_extension = ""})
              .value_or("");
   if (!path.empty() && FileExists(path)) return true;
-  TellFailure("VPA Input File Not Found");
+  Warn("Import VPA Failed - VPA Input File Not Found");
   return false;
 }
 
@@ -120,7 +119,7 @@ bool ListIndices(const std::string& path, const std::string& VpaDir) {
   for (const char* name : {kIndexList, kIndexErrors, kSurveyList}) DeleteWhereThere(VpaDir + name);
   if (!RunProgram(InProgramFolder("scanvpasurvey.exe") + " " + path)) return false;
   if (!FileExists(VpaDir + kIndexList)) {
-    TellFailure("Unable to Find vpa_survey_list.txt");
+    Warn("Import VPA Failed - Unable to Find vpa_survey_list.txt");
     return false;
   }
   ModelRunOK = kFalse;
@@ -133,9 +132,9 @@ bool ConvertCase(const std::string& path, const std::string& VpaRoot) {
     std::string path;
     const char* missing;
   } files[] = {
-      {VpaRoot + "_tarnvik.ctl", "Unable to Find Tarnvik Input Control File"},
-      {VpaRoot + "_tarnvik.pin", "Unable to Find Tarnvik Parameter Input File"},
-      {VpaRoot + "_tarnvik.dat", "Unable to Find Tarnvik Data Input File"},
+      {VpaRoot + "_tarnvik.ctl", "Import VPA Failed - Unable to Find Tarnvik Input Control File"},
+      {VpaRoot + "_tarnvik.pin", "Import VPA Failed - Unable to Find Tarnvik Parameter Input File"},
+      {VpaRoot + "_tarnvik.dat", "Import VPA Failed - Unable to Find Tarnvik Data Input File"},
   };
   for (const auto& file : files) DeleteWhereThere(file.path);
   DeleteWhereThere(kConverterErrors);
@@ -145,7 +144,7 @@ bool ConvertCase(const std::string& path, const std::string& VpaRoot) {
   }
   for (const auto& file : files) {
     if (FileExists(file.path)) continue;
-    TellFailure(file.missing);
+    Warn(file.missing);
     return false;
   }
   return true;
@@ -171,7 +170,7 @@ void OpenConvertedCase(const std::string& VpaRoot) {
 
 void LoadVpaList(const std::string& VpaDir) {
   const std::string path = VpaDir + kIndexList;
-  if (!FileExists(path)) return TellFailure("Unable to Find vpa_survey_list.txt");
+  if (!FileExists(path)) return Warn("Import VPA Failed - Unable to Find vpa_survey_list.txt");
   try {
     InputFile file;
     file.Open(path);
@@ -180,7 +179,7 @@ void LoadVpaList(const std::string& VpaDir) {
     // "*** Index Data is Unavailable ***" in place of the count reads as 0.
     const int count = ValInt(file.ReadLine());
     if (count == 0) {
-      TellFailure("No VPA Indices Available");
+      Warn("Import VPA Failed - No VPA Indices Available");
       file.Close();
       DeleteExistingFile(path);
       UnloadForm(frmVPAIndices);
