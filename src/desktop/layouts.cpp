@@ -182,7 +182,7 @@ const Arrangement kArrangements[] = {
     {"frmEditTextBox", "", "'Title:' Text1 / > cmdOK cmdCancel"},
     {"frmAboutTARNVIK", "", "lblTitle / lblVersion / lblDescription / lblLicence / > cmdOK"},
     {"frmVPAIndices", "",
-     "(Label1 lblVPAFile) / (Label4 cmbNSurv) / (Label2 / lstVPA)*3 (Label3 / lstTARNVIK)*3 "
+     "(Label1 lblVPAFile) / (Label4 cmbNSurv) / (Label2 / lstVPA)*3 (Label3 / lstTARNVIK)*4 "
      "(Label5 / ORVFlexGrid1)*2 / lblHelp / > cmdImport cmdCancel"},
 };
 
@@ -233,7 +233,7 @@ const SizeRow kSizes[] = {
     {"frmSTD", 1020, 640},        {"frmOutput", 1140, 680},    {"frmPlotInput", 1000, 640},
     {"frmPlotCollect", 620, 560}, {"frmView", 860, 600},       {"frmViewOpt", 520, 0},
     {"frmEditGP", 480, 0},        {"frmFillNoData", 460, 0},   {"frmEditTextBox", 420, 0},
-    {"frmAboutTARNVIK", 400, 0},  {"frmVPAIndices", 960, 600},
+    {"frmAboutTARNVIK", 400, 0},  {"frmVPAIndices", 1160, 640},
 };
 
 }  // namespace
