@@ -27,6 +27,20 @@ void PaintHeading(QPainter& painter, const QRect& rect, const QString& text, Qt:
   painter.drawText(inside, static_cast<int>(alignment.toInt()) | Qt::TextWordWrap, BrokenAtBlanks(text));
 }
 
+// A text wider than its cell ends in dots.
+void PaintCellText(QPainter& painter, const QStyleOptionViewItem& cell) {
+  const QFontMetrics& metrics = cell.fontMetrics;
+  const QRect inside = cell.rect.adjusted(kCellMargin, 0, -kCellMargin, 0);
+  int width = metrics.horizontalAdvance(cell.text);
+  const bool fits = width <= inside.width();
+  const QString text = fits ? cell.text : metrics.elidedText(cell.text, Qt::ElideRight, inside.width());
+  if (!fits) width = metrics.horizontalAdvance(text);
+  const QRect place =
+      QStyle::alignedRect(Qt::LeftToRight, cell.displayAlignment, QSize(width, metrics.height()), inside);
+  painter.setFont(cell.font);
+  painter.drawText(place.left(), place.top() + metrics.ascent(), text);
+}
+
 }  // namespace
 
 // --- Cells
@@ -49,24 +63,31 @@ void CellPainter::initStyleOption(QStyleOptionViewItem* option, const QModelInde
   option->palette.setColor(QPalette::Text, ShownColor(grid->CellForeColor(at.row, at.col), palette));
 }
 
+// Not left to the style, which lays out every text several times: a window full of cells shall be painted
+// within a moment.
 void CellPainter::paint(QPainter* painter, const QStyleOptionViewItem& option,
                         const QModelIndex& index) const {
   painter->save();
   QStyleOptionViewItem drawn = option;
+  initStyleOption(&drawn, index);
   const auto* table = qobject_cast<const QAbstractItemView*>(option.widget);
   const bool current = table && table->currentIndex() == index;
   // The current cell of a range is the one where it began: it stands out from the others.
-  if (current) drawn.state.setFlag(QStyle::State_Selected, false);
+  const bool marked = drawn.state.testFlag(QStyle::State_Selected) && !current;
+  const auto group = drawn.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
   drawn.rect.adjust(0, 0, -1, -1);
-  QStyledItemDelegate::paint(painter, drawn, index);
-  const QPalette& palette = option.palette;
-  painter->setPen(Mixed(palette.color(QPalette::Base), palette.color(QPalette::Text), 0.2));
-  painter->drawLine(option.rect.topRight(), option.rect.bottomRight());
-  painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+  painter->fillRect(drawn.rect,
+                    marked ? drawn.palette.brush(group, QPalette::Highlight) : drawn.backgroundBrush);
+  painter->setPen(drawn.palette.color(group, marked ? QPalette::HighlightedText : QPalette::Text));
+  PaintCellText(*painter, drawn);
+  const QRect& rect = option.rect;
+  const QColor line = Mixed(option.palette.color(QPalette::Base), option.palette.color(QPalette::Text), 0.2);
+  painter->fillRect(rect.right(), rect.top(), 1, rect.height(), line);
+  painter->fillRect(rect.left(), rect.bottom(), rect.width(), 1, line);
   if (current) {
-    const auto group = table->hasFocus() ? QPalette::Active : QPalette::Inactive;
-    painter->setPen(QPen(palette.color(group, QPalette::Highlight), 2));
-    painter->drawRect(option.rect.adjusted(1, 1, -2, -2));
+    const auto frame = table->hasFocus() ? QPalette::Active : QPalette::Inactive;
+    painter->setPen(QPen(option.palette.color(frame, QPalette::Highlight), 2));
+    painter->drawRect(rect.adjusted(1, 1, -2, -2));
   }
   painter->restore();
 }

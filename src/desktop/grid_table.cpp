@@ -4,6 +4,7 @@
 #include <QEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QSignalBlocker>
 
 #include "desktop/grid_widths.h"
 
@@ -76,6 +77,8 @@ void GridTable::ShowGrid() {
   labels_->setVisible(LabelCols(*grid) > 0);
   ShowHidden(*grid);
   FitColumns(anew);
+  // What the changed model has put off until after the next painting would paint everything once more.
+  if (isVisible()) executeDelayedItemsLayout();
   ShowPlace(*grid);
 }
 
@@ -96,17 +99,26 @@ void GridTable::FitColumns(bool anew) {
   fit_anew_ = fit_anew_ || anew;
   if (!grid || !isVisible()) return;
   const Showing showing(showing_);
+  // Of a section resized QTableView takes note only after the next painting, and paints once more for it. It
+  // is told at once instead, when all have their sizes.
+  const QSignalBlocker quiet(titles_);
+  bool changed = false;
   std::vector<int> widths = FittingWidths(*grid, font(), logicalDpiX(), TopRowShown());
   for (int i = 0; i < model_->columnCount(); ++i) {
     int& width = widths[static_cast<std::size_t>(model_->ColOf(i))];
     if (isColumnHidden(i)) continue;
     if (widths_by_user_.contains(i) || (!fit_anew_ && width < columnWidth(i))) width = columnWidth(i);
-    if (width != columnWidth(i)) setColumnWidth(i, width);
+    if (width == columnWidth(i)) continue;
+    setColumnWidth(i, width);
+    changed = true;
   }
   titles_->setFixedHeight(HeadingHeight(*grid, font(), widths));
   widths.resize(static_cast<std::size_t>(std::min(LabelCols(*grid), grid->Cols())));
   labels_->SetLabelWidths(std::move(widths));
   fit_anew_ = false;
+  if (!changed) return;
+  updateGeometries();
+  viewport()->update();
 }
 
 // The selection and the top row: what the logic has changed since is brought into view.

@@ -157,6 +157,9 @@ MainWindow::MainWindow(DesktopHost& host)
 }
 
 MainWindow::~MainWindow() {
+  // The child windows go last, one after the other, and each that comes to the front by that would be told
+  // of.
+  disconnect(area_, nullptr, this, nullptr);
   AfterEvent = nullptr;
   host_.window = nullptr;
 }

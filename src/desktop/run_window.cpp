@@ -41,6 +41,16 @@ class Written {
   std::string text_;
 };
 
+// The end of a text, with no more lines than are shown: inserting what goes at once would hold up the window.
+std::string_view ShownEnd(std::string_view text) {
+  std::size_t start = text.size();
+  for (int line = 0; line < kShownLines && start > 0; ++line) {
+    start = text.rfind('\n', start - 1);
+    if (start == std::string_view::npos) return text;
+  }
+  return text.substr(start);
+}
+
 // "tarnvik.exe", of the command line that starts it.
 QString ProgramName(const std::string& command) {
   const CommandLine line = TakeApart(command);
@@ -87,7 +97,7 @@ class RunWindow : public QDialog {
     const std::string piece = written.Take();
     if (piece.empty()) return;
     output_->moveCursor(QTextCursor::End);
-    output_->insertPlainText(ShownText(piece));
+    output_->insertPlainText(ShownText(ShownEnd(piece)));
     output_->ensureCursorVisible();
   }
 

@@ -39,7 +39,8 @@ TextArea::TextArea(QWidget* parent) : QAbstractScrollArea(parent), text_(&kNoTex
 
 void TextArea::SetText(const std::string& text) {
   text_ = &text;
-  line_starts_.assign(1, 0);
+  line_starts_ = {0};
+  line_starts_.reserve(static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1);
   longest_ = 0;
   for (std::size_t end = text.find('\n'); end != std::string::npos; end = text.find('\n', end + 1)) {
     longest_ = std::max(longest_, end - line_starts_.back());

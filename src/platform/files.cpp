@@ -61,7 +61,7 @@ void InputFile::Close() {
   open_ = false;
   at_ = 0;
   next_cr_ = next_lf_ = 0;
-  text_ = std::string();
+  std::string().swap(text_);  // an assignment would keep the room that the file took
 }
 
 std::string_view InputFile::ReadLine() {

@@ -18,6 +18,7 @@ class InputFile {
   void Close();
   bool IsOpen() const { return open_; }
   bool AtEnd() const { return at_ >= text_.size(); }
+  std::size_t Size() const { return text_.size(); }  // bytes of the whole file
   // The next line without its end; raises 62 "Input past end of file" and 52 when no file is open. The view
   // holds until the file is closed or opened anew.
   std::string_view ReadLine();
