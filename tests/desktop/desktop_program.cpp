@@ -84,7 +84,7 @@ void DesktopTest::Settle() {
 // A new timer for each look: one whose act has opened a further dialog would not fire in it again.
 void DesktopTest::Watch() {
   if (!watching_) return;
-  QTimer::singleShot(5, qApp, [this] {
+  QTimer::singleShot(5, &watcher_, [this] {
     if (!watching_) return;
     Watch();
     if (QWidget* modal = QApplication::activeModalWidget()) Answer1(*modal);
