@@ -150,6 +150,7 @@ MainWindow::MainWindow(DesktopHost& host)
   clock->start(1000);
   ShowClock();
 
+  qApp->installEventFilter(this);
   RestorePlaces();
   host_.window = this;
   AfterEvent = [this] { Settle(); };
@@ -229,9 +230,20 @@ void MainWindow::FormUnloaded(Form& form) {
 // Child windows also come to the front by themselves: when they appear, when another goes, when the program
 // does. The user's own way is the mouse; keys and menus say so themselves.
 void MainWindow::Activated(FormWindow* window) {
+  constexpr qint64 kClick = 1000;  // milliseconds in which a press has turned to its window
   if (arranging_ || !window) return;
-  if (QApplication::mouseButtons() != Qt::NoButton) TurnTo(*window);
+  const bool pressed = press_.isValid() && press_.elapsed() < kClick;
+  press_.invalidate();
+  if (pressed) TurnTo(*window);
   PutFrontFormInFront();
+}
+
+bool MainWindow::eventFilter(QObject* object, QEvent* event) {
+  if (event->type() == QEvent::MouseButtonPress) {
+    const auto* widget = qobject_cast<QWidget*>(object);
+    if (widget && area_->isAncestorOf(widget)) press_.start();
+  }
+  return QMainWindow::eventFilter(object, event);
 }
 
 void MainWindow::TurnTo(FormWindow& window) {

@@ -1,6 +1,7 @@
 // The main window: menu bar, child windows, status bar.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QMainWindow>
 #include <memory>
 #include <vector>
@@ -42,6 +43,7 @@ class MainWindow : public QMainWindow {
   void closeEvent(QCloseEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
+  bool eventFilter(QObject* object, QEvent* event) override;  // notes where the mouse is pressed
 
  private:
   FormWindow& WindowFor(FormSlot& slot);
@@ -63,6 +65,7 @@ class MainWindow : public QMainWindow {
   QLabel* date_;
   QLabel* time_;
   std::vector<std::pair<Form*, class FormDialog*>> dialogs_;  // the modal forms, the innermost last
+  QElapsedTimer press_;     // since the mouse was pressed in a child window or on its tab
   bool arranging_ = false;  // windows move by the logic's will: no act of the user
 };
 
