@@ -6,26 +6,10 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 
+#include "desktop/flag_scope.h"
 #include "desktop/grid_widths.h"
 
 namespace tarnvik {
-
-namespace {
-
-// Marks for the length of a block that what changes is not the user's doing.
-class Showing {
- public:
-  explicit Showing(bool& flag) : flag_(flag), before_(flag) { flag_ = true; }
-  ~Showing() { flag_ = before_; }
-  Showing(const Showing&) = delete;
-  Showing& operator=(const Showing&) = delete;
-
- private:
-  bool& flag_;
-  bool before_;
-};
-
-}  // namespace
 
 GridTable::GridTable(const ControlView& view, QWidget* parent)
     : QTableView(parent),
@@ -67,7 +51,7 @@ void GridTable::LetGo() {
 void GridTable::ShowGrid() {
   Grid* grid = Shown();
   if (!grid) return;
-  const Showing showing(showing_);
+  const FlagScope showing(showing_);
   const int cols = model_->columnCount();
   const bool anew = model_->Follow();
   if (editor_ && (anew || !UserMayEdit(*grid, editor_->At()))) CloseEditor(EditEnd::Abandon);
@@ -98,7 +82,7 @@ void GridTable::FitColumns(bool anew) {
   const Grid* grid = Shown();
   fit_anew_ = fit_anew_ || anew;
   if (!grid || !isVisible()) return;
-  const Showing showing(showing_);
+  const FlagScope showing(showing_);
   // Of a section resized QTableView takes note only after the next painting, and paints once more for it. It
   // is told at once instead, when all have their sizes.
   const QSignalBlocker quiet(titles_);
@@ -140,7 +124,7 @@ void GridTable::ShowPlace(Grid& grid) {
 }
 
 void GridTable::ShowRange(const CellRange& range) {
-  const Showing showing(showing_);
+  const FlagScope showing(showing_);
   const QModelIndex from = model_->IndexOf({range.Top(), range.Left()});
   const QModelIndex to = model_->IndexOf({range.Bottom(), range.Right()});
   selectionModel()->setCurrentIndex(model_->IndexOf(range.start), QItemSelectionModel::NoUpdate);
@@ -180,7 +164,7 @@ void GridTable::TakeRangeOf(const QItemSelection& selection) {
   }
   PutSelection(*grid, range);
   shown_range_ = range;
-  const Showing showing(showing_);
+  const FlagScope showing(showing_);
   selectionModel()->setCurrentIndex(model_->IndexOf(range.start), QItemSelectionModel::NoUpdate);
 }
 

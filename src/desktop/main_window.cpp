@@ -21,6 +21,7 @@
 #include "core/program.h"
 #include "desktop/desktop_host.h"
 #include "desktop/events.h"
+#include "desktop/flag_scope.h"
 #include "desktop/form_window.h"
 #include "desktop/guide_window.h"
 #include "desktop/menu_view.h"
@@ -85,19 +86,6 @@ class StatusBarView : public ControlView {
 
  private:
   QLabel* message_;
-};
-
-// Keeps a flag set for a block.
-class Arranging {
- public:
-  explicit Arranging(bool& flag) : flag_(flag), before_(flag) { flag_ = true; }
-  ~Arranging() { flag_ = before_; }
-  Arranging(const Arranging&) = delete;
-  Arranging& operator=(const Arranging&) = delete;
-
- private:
-  bool& flag_;
-  bool before_;
 };
 
 FormSlot* SlotOf(const Form& form) { return FindForm(form.Name()); }
@@ -177,7 +165,7 @@ FormWindow* MainWindow::WindowOf(const FormSlot& slot) const {
 
 FormWindow& MainWindow::WindowFor(FormSlot& slot) {
   if (FormWindow* window = WindowOf(slot)) return *window;
-  const Arranging arranging(arranging_);
+  const FlagScope arranging(arranging_);
   QMdiSubWindow* active = area_->activeSubWindow();
   auto* window = new FormWindow(slot);
   area_->addSubWindow(window);
@@ -192,7 +180,7 @@ void MainWindow::BringToFront(Form& form) {
   FormSlot* slot = SlotOf(form);
   if (!slot || slot == &frmMain) return;
   FormWindow& window = WindowFor(*slot);
-  const Arranging arranging(arranging_);
+  const FlagScope arranging(arranging_);
   if (window.isMinimized()) window.showNormal();
   area_->setActiveSubWindow(&window);
 }
@@ -213,7 +201,7 @@ void MainWindow::FormUnloaded(Form& form) {
   for (auto& [shown, dialog] : dialogs_) {
     if (shown == &form) dialog->LetGo();
   }
-  const Arranging arranging(arranging_);
+  const FlagScope arranging(arranging_);
   for (QMdiSubWindow* window : area_->subWindowList()) {
     auto* shown = static_cast<FormWindow*>(window);
     if (!shown->Shows(form)) continue;
@@ -254,7 +242,7 @@ void MainWindow::TurnTo(FormWindow& window) {
 void MainWindow::TurnToNext(bool forward) {
   CommitPendingEdits();
   {
-    const Arranging arranging(arranging_);
+    const FlagScope arranging(arranging_);
     if (forward) {
       area_->activateNextSubWindow();
     } else {
@@ -267,7 +255,7 @@ void MainWindow::TurnToNext(bool forward) {
 void MainWindow::PutFrontFormInFront() {
   FormSlot* front = FrontForm();
   FormWindow* window = front ? WindowOf(*front) : nullptr;
-  const Arranging arranging(arranging_);
+  const FlagScope arranging(arranging_);
   if (!window) return;
   if (area_->activeSubWindow() != window) area_->setActiveSubWindow(window);
   window->raise();  // one that was active all along may have another that has appeared above it
@@ -284,7 +272,8 @@ void MainWindow::Settle() {
   for (QMdiSubWindow* window : area_->subWindowList()) static_cast<FormWindow*>(window)->TakeTitle();
   if (dialogs_.empty()) PutFrontFormInFront();
   const QString path = OpenCasePath();
-  NoteRecentCase(path);
+  if (path != noted_case_) NoteRecentCase(path);
+  noted_case_ = path;
   setWindowTitle(path.isEmpty() ? "Tarnvik" : QFileInfo(path).fileName() + " - Tarnvik");
 }
 
@@ -310,7 +299,7 @@ void MainWindow::FillWindowMenu() {
   };
   for (const auto& row : arrangements) {
     connect(window_menu_->addAction(row.caption), &QAction::triggered, this, [this, arrange = row.arrange] {
-      const Arranging arranging(arranging_);
+      const FlagScope arranging(arranging_);
       arrange();
     });
   }
@@ -364,7 +353,7 @@ void MainWindow::ShowClock() {
 // A child that appears takes the front by itself; which one has it the logic says.
 void MainWindow::setVisible(bool visible) {
   {
-    const Arranging arranging(arranging_);
+    const FlagScope arranging(arranging_);
     QMainWindow::setVisible(visible);
   }
   if (visible) Settle();

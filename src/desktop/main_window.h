@@ -66,6 +66,7 @@ class MainWindow : public QMainWindow {
   QLabel* time_;
   std::vector<std::pair<Form*, class FormDialog*>> dialogs_;  // the modal forms, the innermost last
   QElapsedTimer press_;     // since the mouse was pressed in a child window or on its tab
+  QString noted_case_;      // what the list of recent cases was last told
   bool arranging_ = false;  // windows move by the logic's will: no act of the user
 };
 
