@@ -65,6 +65,9 @@ struct MainForm : Form {
 
 inline FormOf<MainForm> frmMain{"frmMain"};
 
+// The panel of StatusBar1 for messages.
+inline constexpr int kMessagePanel = 2;
+
 // The start of the program: menus, flags, ranges, settings, default names, frmInput.
 void frmMain_MDIForm_Load();
 // The main window is closing: asks every child, any of which may cancel, then unloads them all.

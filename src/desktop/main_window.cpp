@@ -74,8 +74,6 @@ namespace {
 // them. Other forms get theirs when the logic shows them.
 FormSlot* const kStanding[] = {&frmInput, &frmPin, &frmOutputData, &frmSTD, &frmOutput};
 
-constexpr int kMessagePanel = 2;
-
 class StatusBarView : public ControlView {
  public:
   StatusBarView(StatusBar& bar, QLabel* message) : ControlView(bar), message_(message) { Refresh(); }

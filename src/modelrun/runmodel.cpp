@@ -18,7 +18,6 @@ namespace tarnvik {
 
 namespace {
 
-constexpr int kMessagePanel = 2;
 const std::string kBreak = kLineBreak;
 
 bool UserWantsToRun() {

@@ -24,7 +24,6 @@ namespace {
 
 constexpr int kPictureForDocuments = 5;
 constexpr const char* kPictureEnding = ".mtf";
-constexpr int kMessagePanel = 2;
 
 // --- The page and its figures
 
