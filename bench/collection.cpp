@@ -13,7 +13,7 @@
 #include <string>
 #include <vector>
 
-#include "desktop/chart_picture.h"
+#include "charts/chart_picture.h"
 #include "platform/form.h"
 
 namespace tarnvik {

@@ -20,7 +20,6 @@
 
 #include "bench_host.h"
 #include "core/globals.h"
-#include "core/program.h"
 #include "inputedit/frminput.h"
 #include "inputedit/frmpin.h"
 #include "inputedit/validation.h"
@@ -28,8 +27,9 @@
 #include "inputfiles/datafile.h"
 #include "inputfiles/paramfile.h"
 #include "large_case.h"
+#include "modelrun/scan.h"
 #include "platform/paths.h"
-#include "results/scan.h"
+#include "program/program.h"
 
 extern char** environ;
 

@@ -9,8 +9,6 @@
 
 #include "bench_host.h"
 #include "core/globals.h"
-#include "core/menu.h"
-#include "core/program.h"
 #include "inputedit/frminput.h"
 #include "inputfiles/casefiles.h"
 #include "platform/paths.h"
@@ -20,6 +18,8 @@
 #include "plots/m_prior.h"
 #include "plots/output_drawings.h"
 #include "plots/output_plots.h"
+#include "program/menu.h"
+#include "program/program.h"
 
 namespace tarnvik {
 namespace {

@@ -18,24 +18,24 @@
 #include <map>
 #include <memory>
 
+#include "charts/text.h"
 #include "core/globals.h"
-#include "core/program.h"
 #include "desktop/desktop_host.h"
-#include "desktop/events.h"
-#include "desktop/form_window.h"
+#include "desktop/forms/events.h"
+#include "desktop/forms/form_window.h"
+#include "desktop/forms/text_area.h"
 #include "desktop/main_window.h"
-#include "desktop/text.h"
-#include "desktop/text_area.h"
 #include "inputedit/frminput.h"
 #include "inputedit/frmpin.h"
 #include "large_case.h"
+#include "modelrun/scan.h"
 #include "platform/paths.h"
 #include "plots/frmplotinput.h"
+#include "program/program.h"
 #include "results/frmoutput.h"
 #include "results/frmoutputdata.h"
 #include "results/frmstd.h"
 #include "results/frmview.h"
-#include "results/scan.h"
 #include "results/viewers.h"
 
 extern char** environ;

@@ -18,18 +18,18 @@
 #include <clocale>
 #include <functional>
 
+#include "charts/text.h"
 #include "core/frmmain.h"
-#include "core/program.h"
 #include "desktop/desktop_host.h"
-#include "desktop/events.h"
-#include "desktop/form_window.h"
+#include "desktop/forms/events.h"
+#include "desktop/forms/form_window.h"
 #include "desktop/main_window.h"
-#include "desktop/text.h"
 #include "inputedit/frminput.h"
 #include "inputedit/frmpin.h"
 #include "platform/process.h"
 #include "plots/frmplotcollect.h"
 #include "plots/frmplotinput.h"
+#include "program/program.h"
 #include "results/frmoutput.h"
 #include "results/frmoutputdata.h"
 #include "results/frmstd.h"

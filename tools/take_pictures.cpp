@@ -11,18 +11,18 @@
 #include <deque>
 #include <functional>
 
-#include "core/frmabout.h"
+#include "charts/text.h"
 #include "core/frmmain.h"
-#include "core/program.h"
-#include "desktop/events.h"
-#include "desktop/form_view.h"
-#include "desktop/text.h"
+#include "desktop/forms/events.h"
+#include "desktop/forms/form_view.h"
 #include "inputedit/frminput.h"
 #include "inputedit/frmpin.h"
 #include "platform/paths.h"
 #include "platform/process.h"
 #include "plots/frmplotcollect.h"
 #include "plots/frmplotinput.h"
+#include "program/frmabout.h"
+#include "program/program.h"
 #include "results/frmoutput.h"
 #include "results/frmoutputdata.h"
 #include "results/frmstd.h"

@@ -4,9 +4,9 @@
 
 #include "console/targets.h"
 #include "console/words.h"
-#include "core/program.h"
 #include "core/text.h"
 #include "platform/paths.h"
+#include "program/program.h"
 
 namespace tarnvik {
 

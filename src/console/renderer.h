@@ -1,5 +1,5 @@
-// The renderer of charts, loaded when the first picture is asked for: the windowing library that it needs takes
-// longer to load than all else that a session does.
+// The renderer of charts, loaded when the first picture is asked for: the windowing library that it needs
+// takes longer to load than all else that a session does.
 #pragma once
 
 #include <string>

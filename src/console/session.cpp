@@ -4,8 +4,8 @@
 
 #include "console/commands.h"
 #include "console/words.h"
-#include "core/program.h"
 #include "platform/form.h"
+#include "program/program.h"
 
 namespace tarnvik {
 

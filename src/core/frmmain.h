@@ -1,4 +1,5 @@
-// frmMain: the main window's menu bar and status bar.
+// frmMain: the main window's menu bar and status bar. What its entries do stands in program/menu.cpp, what
+// happens at its start and its end in program/main_form.cpp.
 #pragma once
 
 #include "platform/form.h"
@@ -78,7 +79,5 @@ void frmMain_MDIForm_QueryUnload(bool& cancel);
 void DisableResultMenus();
 // Enable the same five: the results on disk belong to the case.
 void EnableResultMenus();
-// Unload frmOutput, frmSTD and frmOutputData.
-void UnloadResultForms();
 
 }  // namespace tarnvik

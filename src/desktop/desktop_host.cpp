@@ -11,13 +11,13 @@
 #include <QMessageBox>
 #include <QUrl>
 
-#include "desktop/chart_picture.h"
-#include "desktop/edit_history.h"
-#include "desktop/events.h"
+#include "charts/chart_picture.h"
+#include "charts/text.h"
+#include "desktop/forms/events.h"
+#include "desktop/grids/edit_history.h"
 #include "desktop/main_window.h"
 #include "desktop/menu_view.h"
 #include "desktop/run_window.h"
-#include "desktop/text.h"
 #include "platform/form.h"
 #include "platform/paths.h"
 #include "platform/process.h"

@@ -5,10 +5,10 @@
 #include <clocale>
 #include <cstdio>
 
-#include "core/program.h"
 #include "desktop/desktop_host.h"
 #include "desktop/main_window.h"
 #include "platform/process.h"
+#include "program/program.h"
 
 namespace {
 

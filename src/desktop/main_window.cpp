@@ -17,18 +17,18 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "charts/text.h"
 #include "core/frmmain.h"
-#include "core/program.h"
 #include "desktop/desktop_host.h"
-#include "desktop/events.h"
-#include "desktop/flag_scope.h"
-#include "desktop/form_window.h"
+#include "desktop/forms/events.h"
+#include "desktop/forms/form_window.h"
 #include "desktop/guide_window.h"
 #include "desktop/menu_view.h"
 #include "desktop/recent_cases.h"
-#include "desktop/text.h"
 #include "inputedit/frminput.h"
 #include "inputedit/frmpin.h"
+#include "platform/flag_scope.h"
+#include "program/program.h"
 #include "results/frmoutput.h"
 #include "results/frmoutputdata.h"
 #include "results/frmstd.h"

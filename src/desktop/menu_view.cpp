@@ -3,8 +3,8 @@
 #include <QKeySequence>
 #include <unordered_map>
 
-#include "desktop/events.h"
-#include "desktop/text.h"
+#include "charts/text.h"
+#include "desktop/forms/events.h"
 #include "platform/form.h"
 
 namespace tarnvik {

@@ -7,7 +7,7 @@
 #include <memory>
 #include <vector>
 
-#include "desktop/control_view.h"
+#include "desktop/forms/control_view.h"
 
 namespace tarnvik {
 

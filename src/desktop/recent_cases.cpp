@@ -3,8 +3,8 @@
 #include <QFileInfo>
 #include <QSettings>
 
+#include "charts/text.h"
 #include "core/globals.h"
-#include "desktop/text.h"
 #include "inputedit/frminput.h"
 
 namespace tarnvik {

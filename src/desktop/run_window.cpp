@@ -14,7 +14,7 @@
 #include <mutex>
 #include <thread>
 
-#include "desktop/text.h"
+#include "charts/text.h"
 #include "platform/process.h"
 
 namespace tarnvik {

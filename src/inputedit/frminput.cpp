@@ -1,6 +1,5 @@
 #include "inputedit/frminput.h"
 
-#include "core/closing.h"
 #include "core/globals.h"
 
 namespace tarnvik {

@@ -215,6 +215,15 @@ class FormLoading {
 // error passes through.
 void frmInput_Form_Load();
 
+// Asks whether the files shall be saved, unless code closes the form or ExitPrompt is off; then resets what
+// belongs to the case. Cancels on Cancel and when what shall be saved does not validate.
+void frmInput_Form_QueryUnload(bool& cancel, UnloadMode mode);
+
+// Open a control file, a parameter file, a data file, as the flows over the files do.
+void frmInput_cmdBrowseCTL_Click(int);
+void frmInput_cmdBrowse1_Click(int);
+void frmInput_cmdBrowse2_Click(int);
+
 // One estimated item of the form: its box, the label and the field of its phase.
 struct EstimatePair {
   CheckBox* check;

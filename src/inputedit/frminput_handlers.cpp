@@ -5,7 +5,6 @@
 #include "inputedit/gridtools.h"
 #include "inputedit/options.h"
 #include "inputedit/surveys.h"
-#include "inputfiles/casefiles.h"
 
 namespace tarnvik {
 

@@ -1,6 +1,5 @@
 #include "inputedit/frmpin.h"
 
-#include "core/closing.h"
 #include "core/globals.h"
 #include "inputedit/options.h"
 

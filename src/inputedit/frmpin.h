@@ -40,5 +40,7 @@ inline FormOf<PinForm> frmPin{"frmPin"};
 void frmPin_Form_Load();
 // Repaints the three grids of nonparametric selectivity; shows the warnings of counts that are out of range.
 void frmPin_Form_Activate();
+// The question of frmInput's closing, for the parameter file alone; then resets what belongs to that file.
+void frmPin_Form_QueryUnload(bool& cancel, UnloadMode mode);
 
 }  // namespace tarnvik

@@ -6,6 +6,7 @@
 #include "inputfiles/datafile.h"
 #include "inputfiles/paramfile.h"
 #include "plots/frmplotinput.h"
+#include "results/frmoutput.h"
 
 namespace tarnvik {
 

@@ -33,10 +33,6 @@ void ReadControlFile();
 // StdPath, ParPath; CtlFileOpen when the control file names what the labels say.
 void CheckResultsCurrent();
 
-void frmInput_cmdBrowseCTL_Click(int);
-void frmInput_cmdBrowse1_Click(int);
-void frmInput_cmdBrowse2_Click(int);
-
 // Validate one of the two forms and say that its file is not saved when there is a fault. True when there is
 // none.
 bool InputDataPass();

@@ -10,6 +10,7 @@
 #include "inputfiles/newcase.h"
 #include "inputfiles/save_names.h"
 #include "platform/host.h"
+#include "results/frmoutput.h"
 
 namespace tarnvik {
 

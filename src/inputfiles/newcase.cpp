@@ -13,6 +13,7 @@
 #include "inputedit/options.h"
 #include "inputfiles/casefiles.h"
 #include "platform/paths.h"
+#include "results/frmoutput.h"
 
 namespace tarnvik {
 

@@ -7,12 +7,12 @@
 #include "inputedit/frminput.h"
 #include "inputfiles/casefiles.h"
 #include "modelrun/modeloutput.h"
+#include "modelrun/scan.h"
 #include "platform/form.h"
 #include "platform/host.h"
 #include "platform/paths.h"
 #include "results/frmoutput.h"
 #include "results/frmstd.h"
-#include "results/scan.h"
 
 namespace tarnvik {
 

@@ -60,7 +60,8 @@ class Grid : public Control {
   int FixedRows = 1;
   int FixedCols = 1;
   int ReadOnlyCol = -1;  // a column of derived values among the others, -1 for none
-  int ColsInView = 0;    // display only: so many columns at the left stay in view, and never less than FixedCols
+  int ColsInView =
+      0;  // display only: so many columns at the left stay in view, and never less than FixedCols
   // The current cell, the far end of the selected range, the first row in view below the fixed ones.
   int Row = 1;
   int Col = 1;

@@ -11,7 +11,8 @@ namespace tarnvik {
 
 // An eye on a program while it runs. Both may be empty.
 struct ProcessWatch {
-  std::function<void(std::string_view piece)> output;  // what it writes to its standard output, piece by piece
+  std::function<void(std::string_view piece)>
+      output;                  // what it writes to its standard output, piece by piece
   std::function<bool()> stop;  // asked ten times a second; true ends the program at once
 };
 

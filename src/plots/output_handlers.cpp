@@ -1,5 +1,4 @@
-#include "plots/output_handlers.h"
-
+// The handlers of frmOutput and of the plots of frmSTD.
 #include "core/globals.h"
 #include "core/text.h"
 #include "platform/host.h"
@@ -7,6 +6,7 @@
 #include "plots/output_drawings.h"
 #include "plots/output_lists.h"
 #include "results/frmoutput.h"
+#include "results/frmstd.h"
 
 namespace tarnvik {
 
@@ -123,17 +123,6 @@ void AllowBands(int band, CommandButton& button, const ControlArray<OptionButton
 
 }  // namespace
 
-void ShowBiomassSelector() {
-  const bool by_year = SelectedOption(frmOutput->Option7) % 2 == 0;
-  frmOutput->FramePlot7(0).SetVisible(!by_year);
-  frmOutput->FramePlot7(1).SetVisible(by_year);
-}
-
-void EnableSelectivityList() {
-  const int option = SelectedOption(frmOutput->Option13);
-  for (const int list : {0, 1}) frmOutput->cboPlot13(list).SetEnabled(list == option);
-}
-
 void frmOutput_Option3a_Click(int) { output_plots::DrawSurveyIndex(); }
 void frmOutput_Option6_Click(int) { DrawBiomassTotals(); }
 
@@ -178,5 +167,10 @@ void frmOutput_cmdPlot12_Click(int) { DrawAverageF(); }
 void frmOutput_cmdPlot23_Click(int) { DrawEndNumbers(); }
 void frmOutput_cmdPlot25_Click(int) { DrawFRatio(); }
 void frmOutput_cmdPlot26_Click(int) { DrawBiomassRatio(); }
+
+// --- frmSTD
+
+void frmSTD_cmdPlot19_Click(int) { DrawStdRecruitDevs(); }
+void frmSTD_cmdPlot20_Click(int) { DrawStdFDevs(); }
 
 }  // namespace tarnvik

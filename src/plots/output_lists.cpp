@@ -8,7 +8,6 @@
 #include "platform/host.h"
 #include "plots/drawing.h"
 #include "plots/frmplotcollect.h"
-#include "plots/output_handlers.h"
 #include "results/frmoutput.h"
 #include "results/result_tables.h"
 
@@ -60,6 +59,12 @@ void FillSurveyAges() { FillSurveyList(&OutputForm::cboPlot5a, &OutputForm::Char
 void FillSurveySamples() { FillSurveyList(&OutputForm::cboPlot18, &OutputForm::Chart18); }
 void FillSurveySelectivities() { FillSurveyList(&OutputForm::cboPlot14, &OutputForm::Chart14); }
 
+void ShowBiomassSelector() {
+  const bool by_year = SelectedOption(frmOutput->Option7) % 2 == 0;
+  frmOutput->FramePlot7(0).SetVisible(!by_year);
+  frmOutput->FramePlot7(1).SetVisible(by_year);
+}
+
 void FillBiomassAtAge() {
   DrawSilently([] {
     OutputForm& form = *frmOutput;
@@ -68,6 +73,11 @@ void FillBiomassAtAge() {
     AddAges(form.Combo7(1));
     for (const int list : {0, 1}) SelectFirst(form.Combo7(list), form.Chart7);
   });
+}
+
+void EnableSelectivityList() {
+  const int option = SelectedOption(frmOutput->Option13);
+  for (const int list : {0, 1}) frmOutput->cboPlot13(list).SetEnabled(list == option);
 }
 
 void FillFisherySelectivities() {

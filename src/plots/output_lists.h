@@ -16,6 +16,10 @@ void FillBiomassAtAge();          // Combo7(0) and (1); shows the one that goes 
 void FillFisherySelectivities();  // cboPlot13(0) and (1); enables the one that goes with Option13
 void FillSurveySelectivities();   // cboPlot14
 
+// Show the list of Combo7 that goes with the option set, enable the one of cboPlot13.
+void ShowBiomassSelector();
+void EnableSelectivityList();
+
 // After a click on Check4 or Check5: fill the list of years anew and keep the year that is selected, if it is
 // still offered. If not, the user is told, unless a plot collection is being made, and another year is
 // selected. RefillSurveyYears sets PlotSeriesSel(2) to the survey, from 0.

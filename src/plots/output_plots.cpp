@@ -2,9 +2,9 @@
 
 #include "core/globals.h"
 #include "plots/output_drawings.h"
-#include "plots/output_handlers.h"
 #include "plots/output_lists.h"
 #include "plots/plot_parts.h"
+#include "results/frmoutput.h"
 
 namespace tarnvik {
 

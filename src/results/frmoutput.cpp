@@ -3,7 +3,6 @@
 #include <vector>
 
 #include "core/globals.h"
-#include "plots/output_handlers.h"
 #include "results/frmoutputdata.h"
 #include "results/frmstd.h"
 
@@ -274,6 +273,12 @@ void frmOutput_Form_Unload() {
   OutputFormsOpen = kFalse;
   UnloadForm(frmOutputData);
   UnloadForm(frmSTD);
+}
+
+void UnloadResultForms() {
+  UnloadForm(frmOutput);
+  UnloadForm(frmSTD);
+  UnloadForm(frmOutputData);
 }
 
 }  // namespace tarnvik

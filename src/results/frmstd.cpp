@@ -1,7 +1,6 @@
 #include "results/frmstd.h"
 
 #include "core/globals.h"
-#include "plots/output_drawings.h"
 #include "results/frmoutput.h"
 #include "results/frmoutputdata.h"
 
@@ -72,9 +71,6 @@ void StdForm::Design() {
 }
 
 void frmSTD_Form_Load() { frmSTD->SSTab1.SetTab(0); }
-
-void frmSTD_cmdPlot19_Click(int) { DrawStdRecruitDevs(); }
-void frmSTD_cmdPlot20_Click(int) { DrawStdFDevs(); }
 
 void frmSTD_Form_Unload() {
   StdFileRead = kFalse;

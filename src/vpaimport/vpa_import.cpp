@@ -14,6 +14,7 @@
 #include "platform/files.h"
 #include "platform/host.h"
 #include "platform/paths.h"
+#include "results/frmoutput.h"
 #include "vpaimport/frmvpaindices.h"
 #include "vpaimport/survey_assignment.h"
 

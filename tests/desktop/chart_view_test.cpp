@@ -4,8 +4,8 @@
 #include <QTest>
 #include <QToolTip>
 
-#include "desktop/events.h"
-#include "desktop/form_view.h"
+#include "desktop/forms/events.h"
+#include "desktop/forms/form_view.h"
 #include "platform/chart.h"
 #include "support/test_program.h"
 

@@ -12,10 +12,10 @@
 #include <QTimer>
 #include <filesystem>
 
+#include "charts/text.h"
 #include "core/frmmain.h"
-#include "desktop/form_view.h"
-#include "desktop/form_window.h"
-#include "desktop/text.h"
+#include "desktop/forms/form_view.h"
+#include "desktop/forms/form_window.h"
 
 namespace fs = std::filesystem;
 

@@ -43,7 +43,7 @@ class DesktopTest : public ProgramTest {
   void Watch();
   void Answer1(QWidget& modal);
   bool watching_ = false;
-  QObject watcher_;  // no look is taken when it has gone
+  QObject watcher_;              // no look is taken when it has gone
   QWidget* answered_ = nullptr;  // a modal form that has had its acts
 };
 

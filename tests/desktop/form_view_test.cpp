@@ -1,4 +1,4 @@
-#include "desktop/form_view.h"
+#include "desktop/forms/form_view.h"
 
 #include <gtest/gtest.h>
 
@@ -17,7 +17,7 @@
 #include <QTest>
 
 #include "core/frmmain.h"
-#include "desktop/events.h"
+#include "desktop/forms/events.h"
 #include "inputedit/frminput.h"
 #include "platform/lists.h"
 #include "plots/frmplotcollect.h"

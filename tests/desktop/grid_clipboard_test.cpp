@@ -1,4 +1,4 @@
-#include "desktop/grid_clipboard.h"
+#include "desktop/grids/grid_clipboard.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "desktop/grid_view.h"
+#include "desktop/grids/grid_view.h"
 
 #include <gtest/gtest.h>
 
@@ -12,8 +12,8 @@
 
 #include "core/frmmain.h"
 #include "core/globals.h"
-#include "desktop/events.h"
-#include "desktop/grid_find.h"
+#include "desktop/forms/events.h"
+#include "desktop/grids/grid_find.h"
 #include "inputedit/frminput.h"
 #include "inputedit/frmpin.h"
 #include "support/test_program.h"

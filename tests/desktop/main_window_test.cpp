@@ -13,13 +13,13 @@
 #include <QTest>
 #include <filesystem>
 
+#include "charts/text.h"
 #include "core/frmmain.h"
 #include "core/globals.h"
-#include "desktop/events.h"
-#include "desktop/form_view.h"
-#include "desktop/form_window.h"
+#include "desktop/forms/events.h"
+#include "desktop/forms/form_view.h"
+#include "desktop/forms/form_window.h"
 #include "desktop/recent_cases.h"
-#include "desktop/text.h"
 #include "desktop_program.h"
 #include "inputedit/frminput.h"
 #include "inputedit/frmpin.h"

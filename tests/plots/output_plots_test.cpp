@@ -2,9 +2,9 @@
 
 #include <cmath>
 
+#include "modelrun/results_test.h"
 #include "plots/frmplotcollect.h"
 #include "results/result_tables.h"
-#include "results/results_test.h"
 
 namespace tarnvik {
 namespace {

@@ -3,10 +3,10 @@
 #include <filesystem>
 
 #include "core/frmmain.h"
+#include "modelrun/results_test.h"
 #include "platform/paths.h"
 #include "plots/frmplotcollect.h"
 #include "plots/output_plots.h"
-#include "results/results_test.h"
 
 namespace tarnvik {
 namespace {

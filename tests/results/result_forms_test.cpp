@@ -1,5 +1,5 @@
 #include "core/frmmain.h"
-#include "results/results_test.h"
+#include "modelrun/results_test.h"
 #include "results/viewers.h"
 
 namespace tarnvik {

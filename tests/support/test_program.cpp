@@ -137,11 +137,13 @@ std::string ReadBytes(const std::string& path) {
 }
 
 std::string CopyExample(const std::string& folder) {
-  // All of one time, whatever the order of copying: a control file older than its data tells of stale results.
+  // All of one time, whatever the order of copying: a control file older than its data tells of stale
+  // results.
   const auto now = fs::file_time_type::clock::now();
   for (const char* name : {"cod.ctl", "cod.dat", "cod.pin"}) {
     const fs::path copy = fs::path(folder) / name;
-    fs::copy_file(fs::path(TARNVIK_EXAMPLES) / "north-sea-cod" / name, copy, fs::copy_options::overwrite_existing);
+    fs::copy_file(fs::path(TARNVIK_EXAMPLES) / "north-sea-cod" / name, copy,
+                  fs::copy_options::overwrite_existing);
     fs::last_write_time(copy, now);
   }
   return JoinPath(folder, "cod.ctl");

@@ -10,9 +10,9 @@
 #include <string>
 #include <vector>
 
-#include "core/program.h"
 #include "platform/form.h"
 #include "platform/host.h"
+#include "program/program.h"
 
 namespace tarnvik {
 
