@@ -64,10 +64,17 @@ inline Array1<std::int16_t> SurvXYear;   // last year
 inline Array1<std::int16_t> SurvNYears;  // SurvXYear - SurvFYear + 1
 inline Array1<std::string> SurvTitle;    // "Survey <i>" unless the user gave one
 inline Array1<char> SurvParametric;      // whether the survey's index is fitted (chkSurvFit)
-// Row p stands for year NFYear + p - 1. Columns: 0 year, 1 index value, 2 "y" or "n": fit this year's index.
-inline SurveyTable<std::string> SurvYearFit;
-// Columns: 0 year, 1 sample count, 2 "y" or "n": fit this year's composition, age + 2 the share of the age.
-inline SurveyTable<std::string> SurvAgeFit;
+// Row p stands for year NFYear + p - 1; columns are StoreColumn.
+inline SurveyTable<std::string> SurvYearFit;  // the index
+inline SurveyTable<std::string> SurvAgeFit;   // the age composition
+enum StoreColumn : int {
+  kStoreYear = 0,
+  kStoreValue = 1,       // of SurvYearFit the index value, of SurvAgeFit the number of samples
+  kStoreFit = 2,         // "y" or "n": whether the year is fitted
+  kStoreBeforeAges = 2,  // of SurvAgeFit: the share of age a stands in column kStoreBeforeAges + a
+};
+// The row of a survey's first year.
+inline int StoreRow(int survey) { return SurvFYear(survey) - NFYear + 1; }
 
 // --- Flags.
 inline std::int16_t ExitPrompt = 0;   // ask for save when a form closes

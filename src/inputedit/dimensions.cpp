@@ -3,9 +3,13 @@
 #include "core/globals.h"
 #include "core/text.h"
 #include "inputedit/frminput.h"
+#include "inputedit/frmpin.h"
 #include "inputedit/grids.h"
 #include "inputedit/gridtools.h"
+#include "inputedit/labels.h"
+#include "inputedit/selectivity_grids.h"
 #include "inputedit/surveys.h"
+#include "inputedit/year_grids.h"
 #include "platform/host.h"
 
 namespace tarnvik {
@@ -71,23 +75,35 @@ void RefreshYearCombos() {
 }
 
 void ApplyYearChange() {
-  ExpandGrid(1);
-  UpdateYearGrid(1);
-  ExpandGrid(0);
-  UpdateYearGrid(5);
+  ExpandGrid(kToolFisheryAge);
+  UpdateYearGrid(kGridFisheryAge);
+  ExpandGrid(kToolCpue);
+  UpdateYearGrid(kGridCpue);
   UpdatePeriodGrid();
   RefitSurveyYears();
-  for (int grid : {0, 6, 4, 14, 7}) UpdateYearGrid(grid);
+  for (int grid : {kGridCatch, kGridCatchWeight, kGridStockWeight, kGridSpawnWeight, kGridMaturity})
+    UpdateYearGrid(grid);
   UpdateRecDevGrid();
   UpdateFMortDevGrid();
-  UpdateYearGrid(107);
+  UpdateYearGrid(OnPin(kPinFisheryAnnual));
   NFYear = NewNFYear;
   NXYear = NewNXYear;
   NYears = NewNYears;
-  for (int set : {3, 2, 4}) LabelPeriods(set);
+  LabelPeriods();
   // Its grids still show the years before the change, and an edit there would go into the wrong rows of the
   // store.
   ShowSelectedSurvey();
+}
+
+void CommitDimensions() {
+  NFYear = NewNFYear;
+  NXYear = NewNXYear;
+  NYears = NewNYears;
+  NAges = NewNAges;
+  NIndex = NewNIndex;
+  NSelPer = NewNSelPer;
+  RecYr = NewRecYr;
+  FishAgeNYears = FishCPUENYears = NYears;
 }
 
 void frmInput_cmbNFYear_Click(int) {
@@ -145,10 +161,11 @@ void frmInput_cmbNAges_Click(int) {
   UpdateFishNonParGrid();
   UpdateSurvNonParGrid();
   NAges = NewNAges;
-  for (int build_index : {2, 3, 5, 6, 7, 14, 15}) BuildGrid(build_index);
-  BuildGrid(37);  // every age grid of the case has a column for every age
-  RefreshAgeLists(1);
-  RefreshAgeLists(2);
+  for (int build_index : {kBuildFisheryAge, kBuildSurveyAge, kBuildCatchWeight, kBuildStockWeight,
+                          kBuildMaturity, kBuildSpawnWeight, kBuildMMultiplier})
+    BuildGrid(build_index);
+  BuildGrid(kBuildFisheryAnnual);  // every age grid of the case has a column for every age
+  RefreshAgeLists();
 }
 
 void frmInput_cmbSelPer_Click(int) {

@@ -6,7 +6,7 @@
 #include "core/settings.h"
 #include "core/text.h"
 #include "core/utils.h"
-#include "inputedit/dimensions.h"
+#include "inputedit/general_combos.h"
 #include "platform/host.h"
 
 namespace tarnvik {

@@ -2,7 +2,7 @@
 
 #include "core/globals.h"
 #include "inputedit/frminput.h"
-#include "inputedit/grids.h"
+#include "inputedit/labels.h"
 #include "inputedit/surveys.h"
 
 namespace tarnvik {

@@ -1,6 +1,7 @@
 #include "inputedit/frmfillnodata.h"
 
 #include "core/text.h"
+#include "inputedit/frminput.h"
 #include "inputedit/gridtools.h"
 
 namespace tarnvik {
@@ -19,11 +20,11 @@ void frmFillNoData_cmdOK_Click(int) {
   const std::string which = frmFillNoData->txtWhichGrid.Text();
   const std::string value = frmFillNoData->txtDataVal.Text();
   if (which == "Fishery Age Composition Data") {
-    FillNoData(1, value);
+    FillNoData(kToolFisheryAge, value);
   } else if (TokenFirst(which) == "Survey") {
-    FillNoData(2, value);
+    FillNoData(kToolSurveyAge, value);
   } else if (which == "Observed Fishery CPUE Data") {
-    FillNoData(0, value);
+    FillNoData(kToolCpue, value);
   }
   UnloadForm(frmFillNoData);
 }

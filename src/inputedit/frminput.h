@@ -26,6 +26,74 @@ enum InputTab : int {
   kTabFittingOptions
 };
 
+// Grids of ORVFlexGrid; there is no grid 2. How each is shaped stands in grids.cpp.
+enum InputGrid : int {
+  kGridCatch = 0,        // catch biomass by year
+  kGridFisheryAge = 1,   // fit flag, sample size and composition by year
+  kGridSurveyZ = 3,      // share of Z before each survey
+  kGridStockWeight = 4,  // by year and age, like 6, 7 and 14
+  kGridCpue = 5,         // value and fit flag by year
+  kGridCatchWeight = 6,
+  kGridMaturity = 7,
+  kGridPeriods = 8,          // start and end years of the selectivity periods
+  kGridSurveyEmphasis = 9,   // of age composition and index, by survey
+  kGridIndexAges = 10,       // y or n by age and survey
+  kGridFisherySelAges = 11,  // number of ages with a parameter, by period
+  kGridSurveySelAges = 12,   // the same, by survey
+  kGridMMultiplier = 13,     // multiplier of M by age
+  kGridSpawnWeight = 14,
+  kGridSurveyAge = 15,    // of the survey selected: sample size, fit flag, composition by year
+  kGridSurveyIndex = 16,  // of the survey selected: value and fit flag by year
+};
+
+// Items of chkEstimate, lblEstimate and txtEstimate, which three pages share.
+enum OptionItem : int {
+  kItemMCv = 0,
+  kItemM = 1,
+  kItemSurveyQ = 2,
+  kItemSurveyExponent = 3,
+  kItemFisherySample = 4,
+  kItemInitialF = 5,  // initial equilibrium catch
+  kItemCriteria = 6,  // status determination criteria: 12 to 15
+  kItemCpueQ = 10,
+  kItemCpueExponent = 11,
+  kItemTargetF = 12,
+  kItemLimitF = 13,
+  kItemTargetSsb = 14,
+  kItemLimitSsb = 15,
+};
+
+// Likelihood emphasis factors: lblLikelihood, txtLikelihood.
+enum EmphasisItem : int {
+  kEmphasisCpue = 0,
+  kEmphasisRecruitment = 1,
+  kEmphasisFisheryAge = 2,
+  kEmphasisCatch = 3,
+  kEmphasisSelectivity = 4,
+  kEmphasisF = 5,
+};
+
+// Coefficients of variation: lblVarCoeff, txtVarCoeff.
+enum CvItem : int {
+  kCvRecruitment = 1,
+  kCvCatch = 2,
+  kCvF = 3,
+};
+
+// Labels of lblFile.
+enum CaseFileLabel : int { kFilePin, kFileDat };
+// Buttons of cmdCondenseGrd, cmdExpandGrd and cmdFillBlanks, by the grid that they work on.
+enum GridTool : int { kToolCpue, kToolFisheryAge, kToolSurveyAge };
+// Parameters of a selectivity curve: chkSurvSelParEst and its fields.
+enum CurveParameter : int { kLogGamma, kLogBeta, kLogA50 };
+// Options: opBoot; opCPUEtype; opFSelModel, opSurvSelModel; opFishSelParametric, opSurvSelParametric;
+// opFishSelNonPar.
+enum RunMode : int { kSingleRun, kBootstrap };
+enum CpueType : int { kCpueWeight, kCpueNumbers };
+enum SelectivityModel : int { kParametric, kNonparametric };
+enum SelectivityCurve : int { kFlatTopped, kThreeParameters };
+enum SelectivitySpan : int { kByPeriod, kAnnual };
+
 struct InputForm : Form {
   InputForm();
   void Load() override;                                      // frmInput_Form_Load
@@ -39,9 +107,9 @@ struct InputForm : Form {
   Frame Frame1{this, "Frame1"};
   Label lblCTL{this, "lblCTL"};  // control file, "None Selected" in red when there is none
   CommandButton cmdBrowseCTL{this, "cmdBrowseCTL"};
-  ControlArray<Label> lblFile{this, "lblFile", {0, 1}};  // parameter file, data file
-  CommandButton cmdBrowse1{this, "cmdBrowse1"};          // opens a parameter file
-  CommandButton cmdBrowse2{this, "cmdBrowse2"};          // opens a data file
+  ControlArray<Label> lblFile{this, "lblFile", {0, 1}};
+  CommandButton cmdBrowse1{this, "cmdBrowse1"};  // opens a parameter file
+  CommandButton cmdBrowse2{this, "cmdBrowse2"};  // opens a data file
   TextBox txtModel{this, "txtModel"};
   Frame Frame2{this, "Frame2"};
   ComboBox cmbNFYear{this, "cmbNFYear"};
@@ -52,16 +120,14 @@ struct InputForm : Form {
   ComboBox cmbNIndex{this, "cmbNIndex"};
   ComboBox cmbSelPer{this, "cmbSelPer"};
   Frame Frame26{this, "Frame26"};
-  ControlArray<OptionButton> opBoot{this, "opBoot", {0, 1}};  // single run, bootstrapping
+  ControlArray<OptionButton> opBoot{this, "opBoot", {0, 1}};
   Label lblNBoot{this, "lblNBoot"};
   TextBox txtNBoot{this, "txtNBoot"};
   Label lblBootSeed{this, "lblBootSeed"};
   TextBox txtBootSeed{this, "txtBootSeed"};
 
-  // All grids; the catalogue stands in grids.h. There is no grid 2.
   ControlArray<Grid> ORVFlexGrid{
       this, "ORVFlexGrid", {0, 1, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16}};
-  // Index 0 works on ORVFlexGrid(5), 1 on ORVFlexGrid(1), 2 on ORVFlexGrid(15).
   ControlArray<CommandButton> cmdCondenseGrd{this, "cmdCondenseGrd", {0, 1}};
   ControlArray<CommandButton> cmdExpandGrd{this, "cmdExpandGrd", {0, 1}};
   ControlArray<CommandButton> cmdFillBlanks{this, "cmdFillBlanks", {0, 1, 2}};
@@ -75,15 +141,14 @@ struct InputForm : Form {
   ListBox lstCPUEages{this, "lstCPUEages"};
   TextBox txtZCpue{this, "txtZCpue"};
   Frame Frame27{this, "Frame27"};
-  ControlArray<OptionButton> opCPUEtype{this, "opCPUEtype", {0, 1}};  // weight, numbers
+  ControlArray<OptionButton> opCPUEtype{this, "opCPUEtype", {0, 1}};
 
   // Fishery Selectivity
   Frame Frame3{this, "Frame3"};
   // The count of ages of the annual option; lies over ORVFlexGrid(11), and one of the two is visible.
   TextBox txtFishSelAge{this, "txtFishSelAge"};
-  ControlArray<OptionButton> opFSelModel{this, "opFSelModel", {0, 1}};  // parametric, nonparametric
+  ControlArray<OptionButton> opFSelModel{this, "opFSelModel", {0, 1}};
   Frame frmFishSelParModel{this, "frmFishSelParModel"};
-  // flat-topped, 3 parameters
   ControlArray<OptionButton> opFishSelParametric{this, "opFishSelParametric", {0, 1}};
   Frame frmFishSelParEst{this, "frmFishSelParEst"};
   CheckBox chkEstimateFishGamma{this, "chkEstimateFishGamma"};
@@ -96,23 +161,18 @@ struct InputForm : Form {
   Label lblPhaseFishA50{this, "lblPhaseFishA50"};
   TextBox txtPhaseFishA50{this, "txtPhaseFishA50"};
   Frame frmFishSelNonPar{this, "frmFishSelNonPar"};
-  ControlArray<OptionButton> opFishSelNonPar{this, "opFishSelNonPar", {0, 1}};  // by period, annual
+  ControlArray<OptionButton> opFishSelNonPar{this, "opFishSelNonPar", {0, 1}};
   Frame frmFishSelNonParEst{this, "frmFishSelNonParEst"};
   CheckBox chkFishSelNonParEst{this, "chkFishSelNonParEst"};
   Label lblPhaseFSelNonPar{this, "lblPhaseFSelNonPar"};
   TextBox txtPhaseFSelNonPar{this, "txtPhaseFSelNonPar"};
 
-  // Fishery Options, Survey Options and Fitting Options share these arrays; the index carries the meaning:
-  // 0 CV of M, 1 M, 2 survey q, 3 survey exponent, 4 fishery effective sample size, 5 initial equilibrium F,
-  // 6 status determination criteria, 10 CPUE q, 11 CPUE exponent, 12 to 15 target and limit F, target and
-  // limit spawning biomass.
+  // Fishery Options, Survey Options and Fitting Options share the arrays of OptionItem.
   Frame Frame18{this, "Frame18"};
   ControlArray<CheckBox> chkEstimate{this, "chkEstimate", {1, 2, 3, 4, 5, 6, 10, 11}};
   ControlArray<Label> lblEstimate{this, "lblEstimate", {0, 1, 2, 3, 4, 5, 10, 11, 12, 13, 14, 15}};
   ControlArray<TextBox> txtEstimate{this, "txtEstimate", {0, 1, 2, 3, 4, 5, 10, 11, 12, 13, 14, 15}};
   Frame Frame19{this, "Frame19"};
-  // 0 fishery CPUE, 1 recruitment, 2 fishery age composition, 3 catch biomass, 4 fishery selectivity,
-  // 5 F penalty
   ControlArray<Label> lblLikelihood{this, "lblLikelihood", {0, 1, 2, 3, 4, 5}};
   ControlArray<TextBox> txtLikelihood{this, "txtLikelihood", {0, 1, 2, 3, 4, 5}};
   Frame Frame20{this, "Frame20"};
@@ -131,12 +191,10 @@ struct InputForm : Form {
 
   // Survey Selectivity
   Frame Frame22{this, "Frame22"};
-  ControlArray<OptionButton> opSurvSelModel{this, "opSurvSelModel", {0, 1}};  // parametric, nonparametric
+  ControlArray<OptionButton> opSurvSelModel{this, "opSurvSelModel", {0, 1}};
   Frame frmSurvSelModel{this, "frmSurvSelModel"};
-  // flat-topped, 3 parameters
   ControlArray<OptionButton> opSurvSelParametric{this, "opSurvSelParametric", {0, 1}};
   Frame frmSurvSelEstPar{this, "frmSurvSelEstPar"};
-  // log gamma, log beta, log a50
   ControlArray<CheckBox> chkSurvSelParEst{this, "chkSurvSelParEst", {0, 1, 2}};
   ControlArray<Label> lblSurvSelParEst{this, "lblSurvSelParEst", {0, 1, 2}};
   ControlArray<TextBox> txtSurvSelParEst{this, "txtSurvSelParEst", {0, 1, 2}};
@@ -181,7 +239,6 @@ struct InputForm : Form {
   Frame Frame23{this, "Frame23"};
   Frame Frame10{this, "Frame10"};
   Frame Frame17{this, "Frame17"};
-  // 1 recruitment deviations, 2 catch biomass deviations, 3 fishing mortality deviations
   ControlArray<Label> lblVarCoeff{this, "lblVarCoeff", {1, 2, 3}};
   ControlArray<TextBox> txtVarCoeff{this, "txtVarCoeff", {1, 2, 3}};
   Frame Frame11{this, "Frame11"};
@@ -223,18 +280,6 @@ void frmInput_Form_QueryUnload(bool& cancel, UnloadMode mode);
 void frmInput_cmdBrowseCTL_Click(int);
 void frmInput_cmdBrowse1_Click(int);
 void frmInput_cmdBrowse2_Click(int);
-
-// One estimated item of the form: its box, the label and the field of its phase.
-struct EstimatePair {
-  CheckBox* check;
-  Label* label;
-  TextBox* phase;
-  bool in_model = true;  // whether the selectivity model in force has the item at all
-  const char* tip = "";  // of the phase
-};
-
-// All of them, for the options as they are set. Takes the form, since its own design asks too.
-std::vector<EstimatePair> EstimatePairs(InputForm& form);
 
 // Shows a path in one of the three file labels: blue, or "None Selected" in red for "" and "None Selected".
 void ShowPath(Label& label, const std::string& path);

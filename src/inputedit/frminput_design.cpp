@@ -4,6 +4,7 @@
 
 #include "core/globals.h"
 #include "inputedit/frminput.h"
+#include "inputedit/options.h"
 
 namespace tarnvik {
 
@@ -48,9 +49,9 @@ void PlaceGeneral(InputForm& f) {
        {f.Frame26, "Run Mode Selection"}});
   Put(f.Frame1, {{f.lblCTL, kNoneSelected, "Control File"},
                  {f.cmdBrowseCTL, kBrowse, "Opens a control file and the two files that it names"},
-                 {f.lblFile(1), kNoneSelected, "Data File"},
+                 {f.lblFile(kFileDat), kNoneSelected, "Data File"},
                  {f.cmdBrowse2, kBrowse, "Opens a data file"},
-                 {f.lblFile(0), kNoneSelected, "Parameter File"},
+                 {f.lblFile(kFilePin), kNoneSelected, "Parameter File"},
                  {f.cmdBrowse1, kBrowse, "Opens a parameter file"},
                  {f.txtModel, "Model Description"}});
   Put(f.Frame2, {{f.cmbNFYear, "Start Year"},
@@ -60,53 +61,54 @@ void PlaceGeneral(InputForm& f) {
                  {f.cmbNAges, "Number of Ages"},
                  {f.cmbNIndex, "Number of Surveys"},
                  {f.cmbSelPer, "Number of Fishery Selectivity Periods"}});
-  Put(f.Frame26, {{f.opBoot(0), "Single Model Run"},
-                  {f.opBoot(1), "Bootstrapping"},
+  Put(f.Frame26, {{f.opBoot(kSingleRun), "Single Model Run"},
+                  {f.opBoot(kBootstrap), "Bootstrapping"},
                   {f.lblNBoot, "Number of Bootstrap Repetitions"},
                   {f.lblBootSeed, "Random Number Seed"}});
 }
 
 void PlaceFisheryData(InputForm& f) {
   Put(f.SSTab1, kTabFisheryAge, {{f.Frame5, "Fishery Age Composition (Numbers or Proportion)"}});
-  Put(f.Frame5, {{f.ORVFlexGrid(1), "Fishery Age Composition (Numbers or Proportion)"},
-                 {f.cmdCondenseGrd(1), kCondense, kCondenseTip},
-                 {f.cmdExpandGrd(1), kExpand, kExpandTip},
-                 {f.cmdFillBlanks(1), kFillBlanks}});
+  Put(f.Frame5, {{f.ORVFlexGrid(kGridFisheryAge), "Fishery Age Composition (Numbers or Proportion)"},
+                 {f.cmdCondenseGrd(kToolFisheryAge), kCondense, kCondenseTip},
+                 {f.cmdExpandGrd(kToolFisheryAge), kExpand, kExpandTip},
+                 {f.cmdFillBlanks(kToolFisheryAge), kFillBlanks}});
   Put(f.SSTab1, kTabCpue,
       {{f.Frame14, "Observed Fishery CPUE"},
        {f.lstCPUEages, "Include Age in CPUE?"},
        {f.txtZCpue, "Fraction of Annual Total Mortality Prior to CPUE Index"},
        {f.Frame27, ""}});
-  Put(f.Frame14, {{f.ORVFlexGrid(5), "Observed Fishery CPUE"},
+  Put(f.Frame14, {{f.ORVFlexGrid(kGridCpue), "Observed Fishery CPUE"},
                   {f.chkFitFishCPUE, "Fit Fishery CPUE to Observed Data"},
-                  {f.cmdCondenseGrd(0), kCondense, kCondenseTip},
-                  {f.cmdExpandGrd(0), kExpand, kExpandTip},
-                  {f.cmdFillBlanks(0), kFillBlanks}});
-  Put(f.Frame27, {{f.opCPUEtype(1), "CPUE Index Is Numbers"}, {f.opCPUEtype(0), "CPUE Index Is Weight"}});
+                  {f.cmdCondenseGrd(kToolCpue), kCondense, kCondenseTip},
+                  {f.cmdExpandGrd(kToolCpue), kExpand, kExpandTip},
+                  {f.cmdFillBlanks(kToolCpue), kFillBlanks}});
+  Put(f.Frame27, {{f.opCPUEtype(kCpueNumbers), "CPUE Index Is Numbers"},
+                  {f.opCPUEtype(kCpueWeight), "CPUE Index Is Weight"}});
 }
 
 void PlaceFisherySelectivity(InputForm& f) {
   Put(f.SSTab1, kTabFisherySelectivity,
-      {{f.ORVFlexGrid(8), "Fishery Selectivity Periods"},
-       {f.ORVFlexGrid(11), "Number of Age Groups to Estimate Fishery Selectivity"},
+      {{f.ORVFlexGrid(kGridPeriods), "Fishery Selectivity Periods"},
+       {f.ORVFlexGrid(kGridFisherySelAges), "Number of Age Groups to Estimate Fishery Selectivity"},
        {f.txtFishSelAge, "Number of Age Groups to Estimate Fishery Selectivity"},
        {f.Frame3, "Fishery Selectivity Model"}});
-  Put(f.Frame3, {{f.opFSelModel(0), "Use Parametric Model"},
-                 {f.opFSelModel(1), "Use Nonparametric Model"},
+  Put(f.Frame3, {{f.opFSelModel(kParametric), "Use Parametric Model"},
+                 {f.opFSelModel(kNonparametric), "Use Nonparametric Model"},
                  {f.frmFishSelParModel, "Parametric Model"},
                  {f.frmFishSelParEst, "Estimate Parameters"},
                  {f.frmFishSelNonPar, "Nonparametric Model"},
                  {f.frmFishSelNonParEst, "Estimate Parameters"}});
-  Put(f.frmFishSelParModel, {{f.opFishSelParametric(0), "Use Flat-Topped Fishery Selectivity"},
-                             {f.opFishSelParametric(1), "Use 3-Parameter Thompson Function"}});
+  Put(f.frmFishSelParModel, {{f.opFishSelParametric(kFlatTopped), "Use Flat-Topped Fishery Selectivity"},
+                             {f.opFishSelParametric(kThreeParameters), "Use 3-Parameter Thompson Function"}});
   Put(f.frmFishSelParEst, {{f.chkEstimateFishGamma, "Estimate log gamma"},
                            {f.lblPhaseFishGamma, kPhase},
                            {f.chkEstimateFishBeta, "Estimate log beta"},
                            {f.lblPhaseFishBeta, kPhase},
                            {f.chkEstimateFishA50, "Estimate log a50"},
                            {f.lblPhaseFishA50, kPhase}});
-  Put(f.frmFishSelNonPar, {{f.opFishSelNonPar(0), "Use Fishery Selectivity by Period"},
-                           {f.opFishSelNonPar(1), "Use Annual Fishery Selectivity"}});
+  Put(f.frmFishSelNonPar, {{f.opFishSelNonPar(kByPeriod), "Use Fishery Selectivity by Period"},
+                           {f.opFishSelNonPar(kAnnual), "Use Annual Fishery Selectivity"}});
   Put(f.frmFishSelNonParEst,
       {{f.chkFishSelNonParEst, "Estimate Nonparametric Selectivity"}, {f.lblPhaseFSelNonPar, kPhase}});
 }
@@ -116,15 +118,15 @@ void PlaceFisheryOptions(InputForm& f) {
       {{f.Frame18, "Fishery Estimation Parameters"},
        {f.Frame19, "Likelihood Emphasis Factors"},
        {f.Frame20, "Apply Smoothing Function to Fishery Selectivity"}});
-  Put(f.Frame18, {{f.chkEstimate(4), "Estimate Effective Sample Size for Fishery"},
-                  {f.lblEstimate(4), kPhase},
-                  {f.chkEstimate(10), "Estimate CPUE q"},
-                  {f.lblEstimate(10), kPhase},
-                  {f.chkEstimate(11), "Estimate CPUE exponent"},
-                  {f.lblEstimate(11), kPhase}});
-  Put(f.Frame19, {{f.lblLikelihood(0), "Fishery CPUE"},
-                  {f.lblLikelihood(2), "Fishery Age Composition"},
-                  {f.lblLikelihood(4), "Fishery Selectivity"}});
+  Put(f.Frame18, {{f.chkEstimate(kItemFisherySample), "Estimate Effective Sample Size for Fishery"},
+                  {f.lblEstimate(kItemFisherySample), kPhase},
+                  {f.chkEstimate(kItemCpueQ), "Estimate CPUE q"},
+                  {f.lblEstimate(kItemCpueQ), kPhase},
+                  {f.chkEstimate(kItemCpueExponent), "Estimate CPUE exponent"},
+                  {f.lblEstimate(kItemCpueExponent), kPhase}});
+  Put(f.Frame19, {{f.lblLikelihood(kEmphasisCpue), "Fishery CPUE"},
+                  {f.lblLikelihood(kEmphasisFisheryAge), "Fishery Age Composition"},
+                  {f.lblLikelihood(kEmphasisSelectivity), "Fishery Selectivity"}});
   Put(f.Frame20, {{f.chkSmooth(0), "Apply to 1st Difference Between Age Groups"},
                   {f.chkSmooth(1), "Apply to 2nd Difference Between Age Groups"},
                   {f.chkSmooth(2), "Apply to 3rd Difference Between Age Groups"}});
@@ -140,31 +142,33 @@ void PlaceSurveyData(InputForm& f) {
   Put(f.frmSurvInfo, {{f.lblSurvTitle, "", "Click to edit the title of the survey"},
                       {f.cmbSurvFYear, "Start Year"},
                       {f.cmbSurvXYear, "End Year"}});
-  Put(f.Frame28, {{f.ORVFlexGrid(16), "Survey Biomass Index"}, {f.chkSurvFit, "Fit Survey Index"}});
-  Put(f.Frame30, {{f.ORVFlexGrid(15), "Survey Age Composition (Numbers or Porportion)"},
-                  {f.cmdFillBlanks(2), kFillBlanks}});
+  Put(f.Frame28,
+      {{f.ORVFlexGrid(kGridSurveyIndex), "Survey Biomass Index"}, {f.chkSurvFit, "Fit Survey Index"}});
+  Put(f.Frame30, {{f.ORVFlexGrid(kGridSurveyAge), "Survey Age Composition (Numbers or Porportion)"},
+                  {f.cmdFillBlanks(kToolSurveyAge), kFillBlanks}});
 }
 
 void PlaceSurveySelectivity(InputForm& f) {
   Put(f.SSTab1, kTabSurveySelectivity,
       {{f.Frame22, "Survey Selectivity Model"},
        {f.Frame21, "Number of Age Groups to Estimate Survey Selectivity"}});
-  Put(f.Frame22, {{f.opSurvSelModel(0), "Use Parametric Model"},
-                  {f.opSurvSelModel(1), "Use Nonparametric Model"},
+  Put(f.Frame22, {{f.opSurvSelModel(kParametric), "Use Parametric Model"},
+                  {f.opSurvSelModel(kNonparametric), "Use Nonparametric Model"},
                   {f.frmSurvSelModel, "Parametric Model"},
                   {f.frmSurvSelEstPar, "Estimate Parameters"},
                   {f.Frame7, "Nonparametric Model"}});
-  Put(f.frmSurvSelModel, {{f.opSurvSelParametric(0), "Use Flat-Topped Survey Selectivity"},
-                          {f.opSurvSelParametric(1), "Use 3-Parameter Thompson Function"}});
-  Put(f.frmSurvSelEstPar, {{f.chkSurvSelParEst(0), "Estimate log gamma"},
-                           {f.lblSurvSelParEst(0), kPhase},
-                           {f.chkSurvSelParEst(1), "Estimate log beta"},
-                           {f.lblSurvSelParEst(1), kPhase},
-                           {f.chkSurvSelParEst(2), "Estimate log a50"},
-                           {f.lblSurvSelParEst(2), kPhase}});
+  Put(f.frmSurvSelModel, {{f.opSurvSelParametric(kFlatTopped), "Use Flat-Topped Survey Selectivity"},
+                          {f.opSurvSelParametric(kThreeParameters), "Use 3-Parameter Thompson Function"}});
+  Put(f.frmSurvSelEstPar, {{f.chkSurvSelParEst(kLogGamma), "Estimate log gamma"},
+                           {f.lblSurvSelParEst(kLogGamma), kPhase},
+                           {f.chkSurvSelParEst(kLogBeta), "Estimate log beta"},
+                           {f.lblSurvSelParEst(kLogBeta), kPhase},
+                           {f.chkSurvSelParEst(kLogA50), "Estimate log a50"},
+                           {f.lblSurvSelParEst(kLogA50), kPhase}});
   Put(f.Frame7,
       {{f.chkSurvSelNonParEst, "Estimate Nonparametric Selectivity"}, {f.lblSurvSelNonParEst, kPhase}});
-  Put(f.Frame21, {{f.ORVFlexGrid(12), "Number of Age Groups to Estimate Survey Selectivity"}});
+  Put(f.Frame21,
+      {{f.ORVFlexGrid(kGridSurveySelAges), "Number of Age Groups to Estimate Survey Selectivity"}});
 }
 
 void PlaceSurveyOptions(InputForm& f) {
@@ -172,31 +176,31 @@ void PlaceSurveyOptions(InputForm& f) {
       {{f.Frame15, "Include Age In Survey Index?   ( y = yes, n = no )"},
        {f.Frame6, "Fraction of Z Prior to Survey"},
        {f.Frame16, "Survey Fitting and Estimation Parameters"}});
-  Put(f.Frame15, {{f.ORVFlexGrid(10), "Include Age In Survey Index?   ( y = yes, n = no )"}});
-  Put(f.Frame6, {{f.ORVFlexGrid(3), "Fraction of Z Prior to Survey"}});
-  Put(f.Frame16, {{f.ORVFlexGrid(9), "Likelihood Emphasis Factors"},
+  Put(f.Frame15, {{f.ORVFlexGrid(kGridIndexAges), "Include Age In Survey Index?   ( y = yes, n = no )"}});
+  Put(f.Frame6, {{f.ORVFlexGrid(kGridSurveyZ), "Fraction of Z Prior to Survey"}});
+  Put(f.Frame16, {{f.ORVFlexGrid(kGridSurveyEmphasis), "Likelihood Emphasis Factors"},
                   {f.listSurvFit, "Survey Index is Numbers? (Otherwise: Weight, kg/tow*1000)"},
                   {f.listSurvSample, "Estimate Effective Sample Size for Surveys?"},
                   {f.lblEstSurvSample, kPhase},
-                  {f.chkEstimate(2), "Estimate Survey q"},
-                  {f.lblEstimate(2), kPhase},
-                  {f.chkEstimate(3), "Estimate Survey exponent"},
-                  {f.lblEstimate(3), kPhase}});
+                  {f.chkEstimate(kItemSurveyQ), "Estimate Survey q"},
+                  {f.lblEstimate(kItemSurveyQ), kPhase},
+                  {f.chkEstimate(kItemSurveyExponent), "Estimate Survey exponent"},
+                  {f.lblEstimate(kItemSurveyExponent), kPhase}});
 }
 
 void PlaceAnnualData(InputForm& f) {
   Put(f.SSTab1, kTabCatch,
       {{f.Frame4, "Catch Biomass (metric tons)"}, {f.Frame8, "Catch Weight at Age (kg)"}});
-  Put(f.Frame4, {{f.ORVFlexGrid(0), "Catch Biomass (metric tons)"}});
-  Put(f.Frame8, {{f.ORVFlexGrid(6), "Catch Weight at Age (kg)"}});
+  Put(f.Frame4, {{f.ORVFlexGrid(kGridCatch), "Catch Biomass (metric tons)"}});
+  Put(f.Frame8, {{f.ORVFlexGrid(kGridCatchWeight), "Catch Weight at Age (kg)"}});
   Put(f.SSTab1, kTabStockWeight, {{f.Frame12, "Stock Weight at Age (kg)"}});
-  Put(f.Frame12, {{f.ORVFlexGrid(4), "Stock Weight at Age (kg)"}});
+  Put(f.Frame12, {{f.ORVFlexGrid(kGridStockWeight), "Stock Weight at Age (kg)"}});
   Put(f.SSTab1, kTabSpawnWeight,
       {{f.Frame24, "Spawning Mean Weights at Age (kg)"},
        {f.txtFractionZ, "Fraction of Z Prior to Spawning"}});
-  Put(f.Frame24, {{f.ORVFlexGrid(14), "Spawning Mean Weights at Age (kg)"}});
+  Put(f.Frame24, {{f.ORVFlexGrid(kGridSpawnWeight), "Spawning Mean Weights at Age (kg)"}});
   Put(f.SSTab1, kTabMaturity, {{f.Frame9, "Fraction of Stock Mature at Age"}});
-  Put(f.Frame9, {{f.ORVFlexGrid(7), "Fraction of Stock Mature at Age"}});
+  Put(f.Frame9, {{f.ORVFlexGrid(kGridMaturity), "Fraction of Stock Mature at Age"}});
 }
 
 void PlaceFittingOptions(InputForm& f) {
@@ -207,10 +211,10 @@ void PlaceFittingOptions(InputForm& f) {
        {f.Frame17, "Coefficients of Variation"},
        {f.Frame11, ""},
        {f.Frame25, ""}});
-  Put(f.Frame13, {{f.chkEstimate(1), "Estimate M"},
+  Put(f.Frame13, {{f.chkEstimate(kItemM), "Estimate M"},
                   {f.cmbMType, "Prior of M"},
-                  {f.lblEstimate(0), "CV:"},
-                  {f.lblEstimate(1), kPhase},
+                  {f.lblEstimate(kItemMCv), "CV:"},
+                  {f.lblEstimate(kItemM), kPhase},
                   {f.chkEstimateLogRec, "Estimate Mean Logscale Recruitment"},
                   {f.lblPhaseLogRec, kPhase},
                   {f.chkEstimateRecDev, "Estimate Recruitment Deviations"},
@@ -219,20 +223,20 @@ void PlaceFittingOptions(InputForm& f) {
                   {f.lblPhaseFMort, kPhase},
                   {f.chkEstimateFMortDev, "Estimate Fishing Mortality Deviations"},
                   {f.lblPhaseFMortDev, kPhase},
-                  {f.chkEstimate(5), "Estimate Initial Equilibrium for F"},
-                  {f.lblEstimate(5), "Initial Equilibrium Catch Biomass (mt)"},
-                  {f.chkEstimate(6), "Estimate Status Determination Criteria"},
-                  {f.lblEstimate(12), "Target F"},
-                  {f.lblEstimate(13), "Limit F"},
-                  {f.lblEstimate(14), "Target Spawning Biomass (mt)"},
-                  {f.lblEstimate(15), "Limit Spawning Biomass (mt)"}});
-  Put(f.Frame23, {{f.ORVFlexGrid(13), "M Multiplier"}});
-  Put(f.Frame10, {{f.lblLikelihood(1), "Recruitment"},
-                  {f.lblLikelihood(3), "Catch Biomass"},
-                  {f.lblLikelihood(5), "F Penalty"}});
-  Put(f.Frame17, {{f.lblVarCoeff(1), "Recruitment Deviations"},
-                  {f.lblVarCoeff(2), "Catch Biomass Deviations"},
-                  {f.lblVarCoeff(3), "Fishing Mortality Deviations"}});
+                  {f.chkEstimate(kItemInitialF), "Estimate Initial Equilibrium for F"},
+                  {f.lblEstimate(kItemInitialF), "Initial Equilibrium Catch Biomass (mt)"},
+                  {f.chkEstimate(kItemCriteria), "Estimate Status Determination Criteria"},
+                  {f.lblEstimate(kItemTargetF), "Target F"},
+                  {f.lblEstimate(kItemLimitF), "Limit F"},
+                  {f.lblEstimate(kItemTargetSsb), "Target Spawning Biomass (mt)"},
+                  {f.lblEstimate(kItemLimitSsb), "Limit Spawning Biomass (mt)"}});
+  Put(f.Frame23, {{f.ORVFlexGrid(kGridMMultiplier), "M Multiplier"}});
+  Put(f.Frame10, {{f.lblLikelihood(kEmphasisRecruitment), "Recruitment"},
+                  {f.lblLikelihood(kEmphasisCatch), "Catch Biomass"},
+                  {f.lblLikelihood(kEmphasisF), "F Penalty"}});
+  Put(f.Frame17, {{f.lblVarCoeff(kCvRecruitment), "Recruitment Deviations"},
+                  {f.lblVarCoeff(kCvCatch), "Catch Biomass Deviations"},
+                  {f.lblVarCoeff(kCvF), "Fishing Mortality Deviations"}});
   Put(f.Frame11, {{f.txtEpsilon, "Small Positive Number to Prevent log(0)"}});
   Put(f.Frame25, {{f.chkShrink, "Apply Shrinkage Factor to Recruitment"},
                   {f.lblShrink, "Number of Years:"},
@@ -270,10 +274,10 @@ void ChooseFirstOptions(InputForm& f) {
                             &f.opFishSelNonPar, &f.opSurvSelModel, &f.opSurvSelParametric}) {
     (*group)(0).SetValue(true);
   }
-  for (Control* unused :
-       std::initializer_list<Control*>{&f.chkEstimateFishGamma, &f.opFishSelNonPar(0), &f.opFishSelNonPar(1),
-                                       &f.chkFishSelNonParEst, &f.chkSurvSelParEst(0), &f.chkSurvSelNonParEst,
-                                       &f.cmdExpandGrd(0), &f.cmdExpandGrd(1), &f.txtFishSelAge}) {
+  for (Control* unused : std::initializer_list<Control*>{
+           &f.chkEstimateFishGamma, &f.opFishSelNonPar(kByPeriod), &f.opFishSelNonPar(kAnnual),
+           &f.chkFishSelNonParEst, &f.chkSurvSelParEst(kLogGamma), &f.chkSurvSelNonParEst,
+           &f.cmdExpandGrd(kToolCpue), &f.cmdExpandGrd(kToolFisheryAge), &f.txtFishSelAge}) {
     unused->SetEnabled(false);
   }
   f.txtFishSelAge.SetVisible(false);
@@ -298,17 +302,17 @@ void InputForm::Design() {
   PlaceBoxes(*this);
   ChooseFirstOptions(*this);
 
-  for (Label* path : {&lblCTL, &lblFile(0), &lblFile(1)}) path->SetForeColor(kRed);
+  for (Label* path : {&lblCTL, &lblFile(kFilePin), &lblFile(kFileDat)}) path->SetForeColor(kRed);
   txtModel.SetText(kNoneSelected);
   txtBootSeed.SetText("123456");
   txtZCpue.SetText("0.5");
-  txtLikelihood(3).SetText("100");
+  txtLikelihood(kEmphasisCatch).SetText("100");
   txtEpsilon.SetText("1.0e-12");
-  txtEstimate(5).SetText("0.0");
+  txtEstimate(kItemInitialF).SetText("0.0");
 
   ORVFlexGrid.ForEach([](Grid& grid) { grid.Editable = true; });
-  ORVFlexGrid(3).FixedCols = 0;  // survey 1 stands in column 0
-  ORVFlexGrid(8).ReadOnlyCol = 2;
+  ORVFlexGrid(kGridSurveyZ).FixedCols = 0;  // survey 1 stands in column 0
+  ORVFlexGrid(kGridPeriods).ReadOnlyCol = 2;
 }
 
 }  // namespace tarnvik

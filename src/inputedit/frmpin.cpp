@@ -2,6 +2,7 @@
 
 #include "core/globals.h"
 #include "inputedit/options.h"
+#include "inputedit/selectivity_paint.h"
 
 namespace tarnvik {
 
@@ -28,13 +29,13 @@ void PinForm::Design() {
     Control& field;
     const char* caption;
   } labelled[] = {
-      {kTabBiological, Label1(0), txtParmFile(0), "Natural Mortality"},
-      {kTabBiological, Label1(1), txtParmFile(1), "Log of Mean Recruitment (1000s of Fish)"},
-      {kTabBiological, Label1(2), ORVFlexGrid1(0), "Recruitment Deviations"},
-      {kTabBiological, Label1(3), txtParmFile(2), "Log of Mean Fishing Annual Mortality"},
-      {kTabBiological, Label1(4), ORVFlexGrid1(1), "Fishing Mortality Deviations"},
-      {kTabFishery, Label1(5), txtParmFile(3), "Fishery CPUE q"},
-      {kTabFishery, Label1(6), txtParmFile(4), "Fishery CPUE exponent"},
+      {kTabBiological, Label1(0), txtParmFile(kParmM), "Natural Mortality"},
+      {kTabBiological, Label1(1), txtParmFile(kParmLogRec), "Log of Mean Recruitment (1000s of Fish)"},
+      {kTabBiological, Label1(2), ORVFlexGrid1(kPinRecDevs), "Recruitment Deviations"},
+      {kTabBiological, Label1(3), txtParmFile(kParmLogF), "Log of Mean Fishing Annual Mortality"},
+      {kTabBiological, Label1(4), ORVFlexGrid1(kPinFDevs), "Fishing Mortality Deviations"},
+      {kTabFishery, Label1(5), txtParmFile(kParmCpueQ), "Fishery CPUE q"},
+      {kTabFishery, Label1(6), txtParmFile(kParmCpueExponent), "Fishery CPUE exponent"},
   };
   for (const auto& row : labelled) {
     for (Control* control : {static_cast<Control*>(&row.label), &row.field}) {

@@ -6,6 +6,27 @@
 
 namespace tarnvik {
 
+// Grids of ORVFlexGrid1.
+enum PinGrid : int {
+  kPinRecDevs = 0,          // recruitment deviations by year
+  kPinFDevs = 1,            // fishing mortality deviations by year
+  kPinFisheryCurve = 2,     // log gamma, log beta, log a50 by period
+  kPinSurveyIndex = 3,      // q and exponent by survey
+  kPinFisheryByPeriod = 4,  // log selectivity by period and age
+  kPinSurveyCurve = 5,      // log gamma, log beta, log a50 by survey
+  kPinSurveyByAge = 6,      // log selectivity by survey and age
+  kPinFisheryAnnual = 7,    // log selectivity by year and age
+};
+
+// Fields of txtParmFile.
+enum PinParameter : int {
+  kParmM = 0,
+  kParmLogRec = 1,  // log of mean recruitment
+  kParmLogF = 2,    // log of mean fishing mortality
+  kParmCpueQ = 3,
+  kParmCpueExponent = 4,
+};
+
 struct PinForm : Form {
   PinForm();
   void Load() override;                                      // frmPin_Form_Load
@@ -15,12 +36,7 @@ struct PinForm : Form {
 
   TabStrip SSTab1{this, "SSTab1"};  // biological, fishery, survey
   ControlArray<Label> Label1{this, "Label1", {0, 1, 2, 3, 4, 5, 6}};
-  // 0 natural mortality, 1 log of mean recruitment, 2 log of mean fishing mortality, 3 CPUE q,
-  // 4 CPUE exponent
   ControlArray<TextBox> txtParmFile{this, "txtParmFile", {0, 1, 2, 3, 4}};
-  // 0 recruitment deviations, 1 fishing mortality deviations, 2 parametric fishery selectivity, 3 survey
-  // index, 4 nonparametric fishery selectivity by period, 5 parametric and 6 nonparametric survey
-  // selectivity, 7 annual nonparametric fishery selectivity
   ControlArray<Grid> ORVFlexGrid1{this, "ORVFlexGrid1", {0, 1, 2, 3, 4, 5, 6, 7}};
   Frame Frame3{this, "Frame3"};                // survey index parameters
   Frame frmParFishSel{this, "frmParFishSel"};  // the next three share one place, one of them is visible

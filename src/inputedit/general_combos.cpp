@@ -1,4 +1,4 @@
-// What the General tab offers: the lists of years, ages and surveys, from the general parameter ranges.
+#include "inputedit/general_combos.h"
 
 #include <algorithm>
 

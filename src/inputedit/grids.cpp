@@ -7,7 +7,9 @@
 #include "core/text.h"
 #include "inputedit/frminput.h"
 #include "inputedit/frmpin.h"
+#include "inputedit/labels.h"
 #include "inputedit/surveys.h"
+#include "inputedit/year_grids.h"
 
 namespace tarnvik {
 
@@ -38,28 +40,44 @@ struct Shape {
 };
 
 constexpr Shape kShapes[] = {
-    {1, 0, Axis::Years, {"Year", "Catch Biomass"}, Axis::None},
-    {2, 1, Axis::FishAgeYears, {"Year", "Fit? (y/n)", "# Samples"}, Axis::Ages},
-    {3, 15, Axis::SurveyYears, {"Year", "# Samples", "Fit Age Data? (y/n)"}, Axis::Ages},
-    {4, 3, Axis::OneRow, {}, Axis::Surveys},
-    {5, 6, Axis::Years, {"Year"}, Axis::Ages},
-    {6, 4, Axis::Years, {"Year"}, Axis::Ages},
-    {7, 7, Axis::Years, {"Year"}, Axis::Ages},
-    {8, 8, Axis::Periods, {"Period", "Start Year", "End Year"}, Axis::None},
-    {9, 9, Axis::Surveys, {"", "Age Composition", "Biomass Index"}, Axis::None},
-    {10, 5, Axis::CpueYears, {"Year", "Observed CPUE", "Fit CPUE? (y=yes, n=no)"}, Axis::None},
-    {11, 10, Axis::Ages, {""}, Axis::Surveys},
-    {12, 11, Axis::PeriodSpans, {"", "# Ages"}, Axis::None},
-    {13, 12, Axis::Surveys, {"", "# Ages"}, Axis::None},
-    {14, 14, Axis::Years, {"Year"}, Axis::Ages},
-    {15, 13, Axis::Ages, {"", "Multiplier"}, Axis::None},
-    {16, 16, Axis::SurveyYears, {"Year", "Biomass Index", "Fit Index Values? (y/n)"}, Axis::None},
-    {32, 102, Axis::Selectivity, {""}, Axis::PeriodSpans},
-    {33, 104, Axis::PeriodSpans, {""}, Axis::Ages},
-    {34, 103, Axis::IndexParameters, {""}, Axis::Surveys},
-    {35, 105, Axis::Selectivity, {""}, Axis::Surveys},
-    {36, 106, Axis::Surveys, {""}, Axis::Ages},
-    {37, 107, Axis::Years, {""}, Axis::Ages},
+    {kBuildCatch, kGridCatch, Axis::Years, {"Year", "Catch Biomass"}, Axis::None},
+    {kBuildFisheryAge, kGridFisheryAge, Axis::FishAgeYears, {"Year", "Fit? (y/n)", "# Samples"}, Axis::Ages},
+    {kBuildSurveyAge,
+     kGridSurveyAge,
+     Axis::SurveyYears,
+     {"Year", "# Samples", "Fit Age Data? (y/n)"},
+     Axis::Ages},
+    {kBuildSurveyZ, kGridSurveyZ, Axis::OneRow, {}, Axis::Surveys},
+    {kBuildCatchWeight, kGridCatchWeight, Axis::Years, {"Year"}, Axis::Ages},
+    {kBuildStockWeight, kGridStockWeight, Axis::Years, {"Year"}, Axis::Ages},
+    {kBuildMaturity, kGridMaturity, Axis::Years, {"Year"}, Axis::Ages},
+    {kBuildPeriods, kGridPeriods, Axis::Periods, {"Period", "Start Year", "End Year"}, Axis::None},
+    {kBuildSurveyEmphasis,
+     kGridSurveyEmphasis,
+     Axis::Surveys,
+     {"", "Age Composition", "Biomass Index"},
+     Axis::None},
+    {kBuildCpue,
+     kGridCpue,
+     Axis::CpueYears,
+     {"Year", "Observed CPUE", "Fit CPUE? (y=yes, n=no)"},
+     Axis::None},
+    {kBuildIndexAges, kGridIndexAges, Axis::Ages, {""}, Axis::Surveys},
+    {kBuildFisherySelAges, kGridFisherySelAges, Axis::PeriodSpans, {"", "# Ages"}, Axis::None},
+    {kBuildSurveySelAges, kGridSurveySelAges, Axis::Surveys, {"", "# Ages"}, Axis::None},
+    {kBuildSpawnWeight, kGridSpawnWeight, Axis::Years, {"Year"}, Axis::Ages},
+    {kBuildMMultiplier, kGridMMultiplier, Axis::Ages, {"", "Multiplier"}, Axis::None},
+    {kBuildSurveyIndex,
+     kGridSurveyIndex,
+     Axis::SurveyYears,
+     {"Year", "Biomass Index", "Fit Index Values? (y/n)"},
+     Axis::None},
+    {kBuildFisheryCurve, OnPin(kPinFisheryCurve), Axis::Selectivity, {""}, Axis::PeriodSpans},
+    {kBuildFisheryByPeriod, OnPin(kPinFisheryByPeriod), Axis::PeriodSpans, {""}, Axis::Ages},
+    {kBuildPinSurveyIndex, OnPin(kPinSurveyIndex), Axis::IndexParameters, {""}, Axis::Surveys},
+    {kBuildSurveyCurve, OnPin(kPinSurveyCurve), Axis::Selectivity, {""}, Axis::Surveys},
+    {kBuildSurveyByAge, OnPin(kPinSurveyByAge), Axis::Surveys, {""}, Axis::Ages},
+    {kBuildFisheryAnnual, OnPin(kPinFisheryAnnual), Axis::Years, {""}, Axis::Ages},
 };
 
 constexpr const char* kSelectivityParameters[] = {"log gamma", "log beta", "log a50"};
@@ -175,14 +193,14 @@ void DeriveEndYears(Grid& periods) {
 }  // namespace
 
 Grid& CaseGrid(int number) {
-  return number >= 100 ? frmPin->ORVFlexGrid1(number - 100) : frmInput->ORVFlexGrid(number);
+  return number >= kPinGrids ? frmPin->ORVFlexGrid1(number - kPinGrids) : frmInput->ORVFlexGrid(number);
 }
 
 void ShowFitColumn(int grid) {
   constexpr int kCpueWidth = 1300;
   constexpr int kSurveyWidth = 850;
   Grid& table = CaseGrid(grid);
-  const bool cpue = grid == 5;
+  const bool cpue = grid == kGridCpue;
   const bool shown = cpue ? frmInput->chkFitFishCPUE.IsChecked() : frmInput->chkSurvFit.IsChecked();
   if (table.Cols() > 2) table.SetColWidth(2, !shown ? 0 : cpue ? kCpueWidth : kSurveyWidth);
 }
@@ -198,17 +216,21 @@ void BuildGrid(int build_index) {
   grid.SetFormatString(" | ^ ");
   WriteRowLabels(grid, shape->down);
   WriteColumnHeaders(grid, *shape, lead);
-  if (shape->grid == 8) DeriveEndYears(grid);
-  if (shape->grid == 13 && NAges > 0) grid.SetTextMatrix(NAges, 1, "1.0");  // the plus group, by convention
-  if (shape->grid == 5 || shape->grid == 16) ShowFitColumn(shape->grid);
+  if (shape->grid == kGridPeriods) DeriveEndYears(grid);
+  if (shape->grid == kGridMMultiplier && NAges > 0)
+    grid.SetTextMatrix(NAges, 1, "1.0");  // the plus group, by convention
+  if (shape->grid == kGridCpue || shape->grid == kGridSurveyIndex) ShowFitColumn(shape->grid);
 }
 
 void BuildAllInputGrids() {
-  for (int build_index = 1; build_index <= 16; ++build_index) BuildGrid(build_index);
+  for (int build_index = kBuildCatch; build_index <= kBuildSurveyIndex; ++build_index) BuildGrid(build_index);
 }
 
 void BuildAllPinGrids() {
-  for (int build_index = 32; build_index <= 37; ++build_index) BuildGrid(build_index);
+  UpdateRecDevGrid();
+  UpdateFMortDevGrid();
+  for (int build_index = kBuildFisheryCurve; build_index <= kBuildFisheryAnnual; ++build_index)
+    BuildGrid(build_index);
 }
 
 }  // namespace tarnvik

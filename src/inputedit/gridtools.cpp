@@ -10,7 +10,8 @@
 #include "inputedit/frmfillnodata.h"
 #include "inputedit/frminput.h"
 #include "inputedit/grids.h"
-#include "inputedit/options.h"
+#include "inputedit/labels.h"
+#include "inputedit/selectivity_paint.h"
 #include "inputedit/surveys.h"
 #include "platform/host.h"
 
@@ -26,8 +27,8 @@ struct CondensableGrid {
 };
 
 CondensableGrid Condensable(int which) {
-  if (which == 0) return {frmInput->ORVFlexGrid(5), 10, FishCPUENYears};
-  return {frmInput->ORVFlexGrid(1), 2, FishAgeNYears};
+  if (which == kToolCpue) return {frmInput->ORVFlexGrid(kGridCpue), kBuildCpue, FishCPUENYears};
+  return {frmInput->ORVFlexGrid(kGridFisheryAge), kBuildFisheryAge, FishAgeNYears};
 }
 
 // Rows of a grid, set aside while it is rebuilt.
@@ -105,19 +106,19 @@ void ExpandGrid(int which) {
 }
 
 void FillNoData(int which, const std::string& value) {
-  if (which == 0) {
-    CondenseGrid(0);
-    FillColumns(frmInput->ORVFlexGrid(5), 1, 1, value);
-  } else if (which == 1) {
-    CondenseGrid(1);
-    Grid& grid = frmInput->ORVFlexGrid(1);
+  if (which == kToolCpue) {
+    CondenseGrid(kToolCpue);
+    FillColumns(frmInput->ORVFlexGrid(kGridCpue), 1, 1, value);
+  } else if (which == kToolFisheryAge) {
+    CondenseGrid(kToolFisheryAge);
+    Grid& grid = frmInput->ORVFlexGrid(kGridFisheryAge);
     FillColumns(grid, 3, grid.Cols() - 1, value);
   } else {
-    Grid& grid = frmInput->ORVFlexGrid(15);
+    Grid& grid = frmInput->ORVFlexGrid(kGridSurveyAge);
     FillColumns(grid, 3, grid.Cols() - 1, value);
     // Like typed values: otherwise the next selection of a survey, validation's too, would take them away
     // again.
-    StoreSurveyGrid(15);
+    StoreSurveyGrid(kGridSurveyAge);
   }
 }
 
@@ -128,11 +129,11 @@ void frmInput_cmdFillBlanks_Click(int index) {
   const std::string survey = "Survey " + NumberText(SelectedSurvey());
   const std::string condensed = "The current grid will be condensed and ";
   FillNoDataForm& form = *frmFillNoData;
-  if (index == 0) {
+  if (index == kToolCpue) {
     form.txtWhichGrid.SetText("Observed Fishery CPUE Data");
     form.lblExplain.SetCaption(condensed +
                                "blank grid cells for Fishery CPUE will be filled with this value.");
-  } else if (index == 1) {
+  } else if (index == kToolFisheryAge) {
     form.txtWhichGrid.SetText("Fishery Age Composition Data");
     form.lblExplain.SetCaption(
         condensed + "blank grid cells for Fishery Proportion at Age will be filled with this value.");
@@ -153,10 +154,10 @@ void frmInput_lblSurvTitle_Click(int) {
 }
 
 void frmInput_ORVFlexGrid_event9(int index) {
-  if (index == 1) frmInput->cmdCondenseGrd(1).SetEnabled(true);
-  if (index == 5) frmInput->cmdCondenseGrd(0).SetEnabled(true);
-  if (index != 8 || PeriodEditWarned == kTrue) return;
-  const Grid& grid = frmInput->ORVFlexGrid(8);
+  if (index == kGridFisheryAge) frmInput->cmdCondenseGrd(kToolFisheryAge).SetEnabled(true);
+  if (index == kGridCpue) frmInput->cmdCondenseGrd(kToolCpue).SetEnabled(true);
+  if (index != kGridPeriods || PeriodEditWarned == kTrue) return;
+  const Grid& grid = frmInput->ORVFlexGrid(kGridPeriods);
   if (grid.Col == 1 && grid.Row > 1) {
     ShowMessage(std::string("Editing the Selectivity Period Start Year Will Automatically") + kLineBreak +
                     "Adjust the End Year of the Previous Selectivity Period",
@@ -167,15 +168,15 @@ void frmInput_ORVFlexGrid_event9(int index) {
 
 void frmInput_ORVFlexGrid_event1(int index) {
   switch (index) {
-    case 8:
-      for (const int set : {2, 3, 4}) LabelPeriods(set);
+    case kGridPeriods:
+      LabelPeriods();
       break;
-    case 11:
+    case kGridFisherySelAges:
       PaintFishPeriodGrid();
       PaintFishAnnualGrid();
       break;
-    case 15:
-    case 16:
+    case kGridSurveyAge:
+    case kGridSurveyIndex:
       StoreSurveyGrid(index);
       break;
     default:

@@ -2,11 +2,12 @@
 
 #include "core/globals.h"
 #include "core/text.h"
-#include "inputedit/dimensions.h"
 #include "inputedit/frminput.h"
 #include "inputedit/frmpin.h"
 #include "inputedit/grids.h"
+#include "inputedit/selectivity_paint.h"
 #include "inputedit/surveys.h"
+#include "inputedit/year_grids.h"
 
 namespace tarnvik {
 
@@ -37,11 +38,11 @@ void UncheckAndDisable(CheckBox& check) {
 }  // namespace
 
 std::vector<EstimatePair> EstimatePairs(InputForm& f) {
-  const bool fish_curve = f.opFSelModel(0).Value();
-  const bool fish_ages = f.opFSelModel(1).Value();
-  const bool surv_curve = f.opSurvSelModel(0).Value();
-  const bool surv_ages = f.opSurvSelModel(1).Value();
-  const bool surv_gamma = surv_curve && !f.opSurvSelParametric(0).Value();
+  const bool fish_curve = f.opFSelModel(kParametric).Value();
+  const bool fish_ages = f.opFSelModel(kNonparametric).Value();
+  const bool surv_curve = f.opSurvSelModel(kParametric).Value();
+  const bool surv_ages = f.opSurvSelModel(kNonparametric).Value();
+  const bool surv_gamma = surv_curve && !f.opSurvSelParametric(kFlatTopped).Value();
   constexpr bool kAlways = true;
   const auto& check = f.chkEstimate;
   const auto& label = f.lblEstimate;
@@ -55,27 +56,33 @@ std::vector<EstimatePair> EstimatePairs(InputForm& f) {
       {&f.chkEstimateFishBeta, &f.lblPhaseFishBeta, &f.txtPhaseFishBeta, fish_curve, kMiddle},
       {&f.chkEstimateFishA50, &f.lblPhaseFishA50, &f.txtPhaseFishA50, fish_curve, kMiddle},
       {&f.chkFishSelNonParEst, &f.lblPhaseFSelNonPar, &f.txtPhaseFSelNonPar, fish_ages, kMiddle},
-      {&f.chkSurvSelParEst(0), &f.lblSurvSelParEst(0), &f.txtSurvSelParEst(0), surv_gamma, kMiddle},
-      {&f.chkSurvSelParEst(1), &f.lblSurvSelParEst(1), &f.txtSurvSelParEst(1), surv_curve, kMiddle},
-      {&f.chkSurvSelParEst(2), &f.lblSurvSelParEst(2), &f.txtSurvSelParEst(2), surv_curve, kMiddle},
+      {&f.chkSurvSelParEst(kLogGamma), &f.lblSurvSelParEst(kLogGamma), &f.txtSurvSelParEst(kLogGamma),
+       surv_gamma, kMiddle},
+      {&f.chkSurvSelParEst(kLogBeta), &f.lblSurvSelParEst(kLogBeta), &f.txtSurvSelParEst(kLogBeta),
+       surv_curve, kMiddle},
+      {&f.chkSurvSelParEst(kLogA50), &f.lblSurvSelParEst(kLogA50), &f.txtSurvSelParEst(kLogA50), surv_curve,
+       kMiddle},
       {&f.chkSurvSelNonParEst, &f.lblSurvSelNonParEst, &f.txtSurvSelNonParEst, surv_ages, kMiddle},
-      {&check(1), &label(0), &text(0), kAlways, "Coefficient of variation of M"},
-      {&check(1), &label(1), &text(1), kAlways,
+      {&check(kItemM), &label(kItemMCv), &text(kItemMCv), kAlways, "Coefficient of variation of M"},
+      {&check(kItemM), &label(kItemM), &text(kItemM), kAlways,
        "Enter the phase at which to begin estimating M; must be 9 or larger"},
-      {&check(2), &label(2), &text(2), kAlways,
+      {&check(kItemSurveyQ), &label(kItemSurveyQ), &text(kItemSurveyQ), kAlways,
        "Enter the phase at which to begin estimating Survey q; must be 8 or larger"},
-      {&check(3), &label(3), &text(3), kAlways,
+      {&check(kItemSurveyExponent), &label(kItemSurveyExponent), &text(kItemSurveyExponent), kAlways,
        "Enter the phase at which to begin estimating Survey exponent; must be 8 or larger"},
-      {&check(4), &label(4), &text(4), kAlways,
+      {&check(kItemFisherySample), &label(kItemFisherySample), &text(kItemFisherySample), kAlways,
        "Enter the phase at which to begin estimating the effective sample size"},
-      {&check(5), &label(5), &text(5), kAlways, "Initial equilibrium catch biomass, in metric tons"},
-      {&check(6), &label(12), &text(12), kAlways, "Target fishing mortality"},
-      {&check(6), &label(13), &text(13), kAlways, "Limit fishing mortality"},
-      {&check(6), &label(14), &text(14), kAlways, "Target spawning biomass, in metric tons"},
-      {&check(6), &label(15), &text(15), kAlways, "Limit spawning biomass, in metric tons"},
-      {&check(10), &label(10), &text(10), kAlways,
+      {&check(kItemInitialF), &label(kItemInitialF), &text(kItemInitialF), kAlways,
+       "Initial equilibrium catch biomass, in metric tons"},
+      {&check(kItemCriteria), &label(kItemTargetF), &text(kItemTargetF), kAlways, "Target fishing mortality"},
+      {&check(kItemCriteria), &label(kItemLimitF), &text(kItemLimitF), kAlways, "Limit fishing mortality"},
+      {&check(kItemCriteria), &label(kItemTargetSsb), &text(kItemTargetSsb), kAlways,
+       "Target spawning biomass, in metric tons"},
+      {&check(kItemCriteria), &label(kItemLimitSsb), &text(kItemLimitSsb), kAlways,
+       "Limit spawning biomass, in metric tons"},
+      {&check(kItemCpueQ), &label(kItemCpueQ), &text(kItemCpueQ), kAlways,
        "Enter the phase at which to begin estimating CPUE q; must be 3 or larger"},
-      {&check(11), &label(11), &text(11), kAlways,
+      {&check(kItemCpueExponent), &label(kItemCpueExponent), &text(kItemCpueExponent), kAlways,
        "Enter the phase at which to begin estimating CPUE exponent; must be 4 or larger"},
   };
 }
@@ -83,13 +90,13 @@ std::vector<EstimatePair> EstimatePairs(InputForm& f) {
 void frmInput_chkEstimate_Click(int index) {
   const CheckBox& check = frmInput->chkEstimate(index);
   ApplyEstimatePairs(check);
-  if (index == 1) {
+  if (index == kItemM) {
     frmInput->cmbMType.SetVisible(check.IsChecked());
     // A file that held M fixed has disabled the list.
     if (check.IsChecked()) frmInput->cmbMType.SetEnabled(true);
   }
   // With an initial equilibrium F the recruitment deviations reach back before the first year.
-  if (index == 5) UpdateRecDevGrid();
+  if (index == kItemInitialF) UpdateRecDevGrid();
 }
 
 void frmInput_chkEstimateLogRec_Click(int) { ApplyEstimatePairs(frmInput->chkEstimateLogRec); }
@@ -122,13 +129,13 @@ void PaintFishGrids() {
 void ShowFishSelAge(bool shown) {
   frmInput->txtFishSelAge.SetVisible(shown);
   frmInput->txtFishSelAge.SetEnabled(shown);
-  frmInput->ORVFlexGrid(11).SetVisible(!shown);
+  frmInput->ORVFlexGrid(kGridFisherySelAges).SetVisible(!shown);
 }
 
 void UseCountsByPeriod() {
   if (!frmInput->txtFishSelAge.Visible()) return;
   ShowFishSelAge(false);
-  Grid& counts = frmInput->ORVFlexGrid(11);
+  Grid& counts = frmInput->ORVFlexGrid(kGridFisherySelAges);
   for (int row = 1; row < counts.Rows(); ++row) {
     if (row == 1) {
       counts.SetTextMatrix(row, 1, frmInput->txtFishSelAge.Text());
@@ -142,7 +149,7 @@ void UseCountsByPeriod() {
 void UseOneCount() {
   if (frmInput->txtFishSelAge.Visible()) return;
   ShowFishSelAge(true);
-  const Grid& counts = frmInput->ORVFlexGrid(11);
+  const Grid& counts = frmInput->ORVFlexGrid(kGridFisherySelAges);
   if (counts.Rows() > 1) frmInput->txtFishSelAge.SetText(counts.TextMatrix(1, 1));
   PaintFishGrids();
 }
@@ -155,9 +162,9 @@ void ShowLogGammaRow(Grid& parameters, bool flat_topped) {
 }
 
 void ApplyFishSelModel() {
-  const bool parametric = frmInput->opFSelModel(0).Value();
-  const bool by_period = !parametric && frmInput->opFishSelNonPar(0).Value();
-  const bool annual = !parametric && !by_period && frmInput->opFishSelNonPar(1).Value();
+  const bool parametric = frmInput->opFSelModel(kParametric).Value();
+  const bool by_period = !parametric && frmInput->opFishSelNonPar(kByPeriod).Value();
+  const bool annual = !parametric && !by_period && frmInput->opFishSelNonPar(kAnnual).Value();
   frmPin->frmParFishSel.SetVisible(parametric);
   frmPin->frmNonParFishSel1.SetVisible(by_period);
   frmPin->frmNonParFishSel2.SetVisible(annual);
@@ -166,22 +173,27 @@ void ApplyFishSelModel() {
   } else {
     UseCountsByPeriod();
   }
-  ShowLogGammaRow(frmPin->ORVFlexGrid1(2), frmInput->opFishSelParametric(0).Value());
+  ShowLogGammaRow(frmPin->ORVFlexGrid1(kPinFisheryCurve), frmInput->opFishSelParametric(kFlatTopped).Value());
 }
 
 void ApplySurvSelModel() {
-  const bool parametric = frmInput->opSurvSelModel(0).Value();
+  const bool parametric = frmInput->opSurvSelModel(kParametric).Value();
   frmPin->frmParSurvSel.SetVisible(parametric);
   frmPin->frmNonParSurvSel.SetVisible(!parametric);
-  ShowLogGammaRow(frmPin->ORVFlexGrid1(5), frmInput->opSurvSelParametric(0).Value());
+  ShowLogGammaRow(frmPin->ORVFlexGrid1(kPinSurveyCurve), frmInput->opSurvSelParametric(kFlatTopped).Value());
+}
+
+void ApplySelectivityModels() {
+  ApplyFishSelModel();
+  ApplySurvSelModel();
 }
 
 void frmInput_opFSelModel_Click(int) {
-  const bool parametric = frmInput->opFSelModel(0).Value();
+  const bool parametric = frmInput->opFSelModel(kParametric).Value();
   EnableBoth(frmInput->opFishSelParametric, parametric);
   EnableBoth(frmInput->opFishSelNonPar, !parametric);
   if (parametric) {
-    frmInput->chkEstimateFishGamma.SetEnabled(!frmInput->opFishSelParametric(0).Value());
+    frmInput->chkEstimateFishGamma.SetEnabled(!frmInput->opFishSelParametric(kFlatTopped).Value());
     frmInput->chkEstimateFishBeta.SetEnabled(true);
     frmInput->chkEstimateFishA50.SetEnabled(true);
     UncheckAndDisable(frmInput->chkFishSelNonParEst);
@@ -195,12 +207,12 @@ void frmInput_opFSelModel_Click(int) {
 }
 
 void frmInput_opSurvSelModel_Click(int) {
-  const bool parametric = frmInput->opSurvSelModel(0).Value();
+  const bool parametric = frmInput->opSurvSelModel(kParametric).Value();
   EnableBoth(frmInput->opSurvSelParametric, parametric);
   if (parametric) {
-    frmInput->chkSurvSelParEst(0).SetEnabled(!frmInput->opSurvSelParametric(0).Value());
-    frmInput->chkSurvSelParEst(1).SetEnabled(true);
-    frmInput->chkSurvSelParEst(2).SetEnabled(true);
+    frmInput->chkSurvSelParEst(kLogGamma).SetEnabled(!frmInput->opSurvSelParametric(kFlatTopped).Value());
+    frmInput->chkSurvSelParEst(kLogBeta).SetEnabled(true);
+    frmInput->chkSurvSelParEst(kLogA50).SetEnabled(true);
     UncheckAndDisable(frmInput->chkSurvSelNonParEst);
     TurnOn(frmInput->lblSurvSelNonParEst, frmInput->txtSurvSelNonParEst, false);
   } else {
@@ -211,21 +223,21 @@ void frmInput_opSurvSelModel_Click(int) {
 }
 
 void frmInput_opFishSelParametric_Click(int) {
-  const bool flat_topped = frmInput->opFishSelParametric(0).Value();
-  if (frmInput->opFSelModel(0).Value()) {
+  const bool flat_topped = frmInput->opFishSelParametric(kFlatTopped).Value();
+  if (frmInput->opFSelModel(kParametric).Value()) {
     if (flat_topped) frmInput->chkEstimateFishGamma.SetValue(0);
     frmInput->chkEstimateFishGamma.SetEnabled(!flat_topped);
   }
-  ShowLogGammaRow(frmPin->ORVFlexGrid1(2), flat_topped);
+  ShowLogGammaRow(frmPin->ORVFlexGrid1(kPinFisheryCurve), flat_topped);
 }
 
 void frmInput_opSurvSelParametric_Click(int) {
-  const bool flat_topped = frmInput->opSurvSelParametric(0).Value();
-  if (frmInput->opSurvSelModel(0).Value()) {
-    if (flat_topped) frmInput->chkSurvSelParEst(0).SetValue(0);
-    frmInput->chkSurvSelParEst(0).SetEnabled(!flat_topped);
+  const bool flat_topped = frmInput->opSurvSelParametric(kFlatTopped).Value();
+  if (frmInput->opSurvSelModel(kParametric).Value()) {
+    if (flat_topped) frmInput->chkSurvSelParEst(kLogGamma).SetValue(0);
+    frmInput->chkSurvSelParEst(kLogGamma).SetEnabled(!flat_topped);
   }
-  ShowLogGammaRow(frmPin->ORVFlexGrid1(5), flat_topped);
+  ShowLogGammaRow(frmPin->ORVFlexGrid1(kPinSurveyCurve), flat_topped);
 }
 
 void frmInput_opFishSelNonPar_Click(int) { ApplyFishSelModel(); }
@@ -241,15 +253,15 @@ void frmInput_chkShrink_Click(int) {
 }
 
 void frmInput_opBoot_Click(int) {
-  const bool on = !frmInput->opBoot(0).Value();
+  const bool on = !frmInput->opBoot(kSingleRun).Value();
   TurnOn(frmInput->lblNBoot, frmInput->txtNBoot, on);
   TurnOn(frmInput->lblBootSeed, frmInput->txtBootSeed, on);
 }
 
-void frmInput_chkFitFishCPUE_Click(int) { ShowFitColumn(5); }
+void frmInput_chkFitFishCPUE_Click(int) { ShowFitColumn(kGridCpue); }
 
 void frmInput_chkSurvFit_Click(int) {
-  ShowFitColumn(16);
+  ShowFitColumn(kGridSurveyIndex);
   const int survey = SelectedSurvey();
   if (survey >= 1 && survey <= SurvParametric.Size())
     SurvParametric(survey) = frmInput->chkSurvFit.IsChecked();

@@ -2,7 +2,9 @@
 // grids and the frames of frmPin. Each rule runs in a click handler; a reader that sets a value runs it too.
 #pragma once
 
-#include "platform/grid.h"
+#include <vector>
+
+#include "inputedit/frminput.h"
 
 namespace tarnvik {
 
@@ -34,14 +36,20 @@ void frmInput_txtFishSelAge_LostFocus(int);
 void ApplyFishSelModel();
 // Sets the survey frames of frmPin, hides or shows the log gamma row.
 void ApplySurvSelModel();
+// Both, when the grids of frmPin have been built anew.
+void ApplySelectivityModels();
 // Hides the log gamma row of a grid of curve parameters, which keeps what it holds, or shows it.
 void ShowLogGammaRow(Grid& parameters, bool flat_topped);
-// The warning of a count of ages to estimate that is reset to NewNAges; fleet is "Fishery" or "Survey".
-void WarnOfAgeCount(const char* fleet);
-// Colour and clear frmPin grids 4, 7 and 6 by the counts of ages to estimate; an invalid count is reset with
-// one warning. Only cells that exist are touched.
-void PaintFishPeriodGrid();
-void PaintFishAnnualGrid();
-void PaintSurvGrid();
+// One estimated item of the form: its box, the label and the field of its phase.
+struct EstimatePair {
+  CheckBox* check;
+  Label* label;
+  TextBox* phase;
+  bool in_model = true;  // whether the selectivity model in force has the item at all
+  const char* tip = "";  // of the phase
+};
+
+// All of them, for the options as they are set. Takes the form, since its own design asks too.
+std::vector<EstimatePair> EstimatePairs(InputForm& form);
 
 }  // namespace tarnvik

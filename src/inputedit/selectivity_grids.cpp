@@ -1,13 +1,14 @@
-// The selectivity periods and the grids with one row or column for each period or survey, on both forms.
+#include "inputedit/selectivity_grids.h"
+
 #include <string>
 
 #include "core/globals.h"
 #include "core/text.h"
-#include "inputedit/dimensions.h"
 #include "inputedit/frminput.h"
 #include "inputedit/frmpin.h"
-#include "inputedit/grids.h"
+#include "inputedit/labels.h"
 #include "inputedit/options.h"
+#include "inputedit/selectivity_paint.h"
 
 namespace tarnvik {
 
@@ -43,7 +44,7 @@ void SetAgeHeaders(Grid& grid) {
 void UpdatePeriodGrid() {
   InputForm& form = *frmInput;
   if (!Selected(form.cmbNFYear) || !Selected(form.cmbNXYear) || !Selected(form.cmbSelPer)) return;
-  Grid& spans = form.ORVFlexGrid(8);
+  Grid& spans = form.ORVFlexGrid(kGridPeriods);
   spans.Resize(NewNSelPer + 1, 3);
   spans.SetTextMatrix(0, 0, "Period");
   spans.SetTextMatrix(0, 1, "Start Year");
@@ -64,7 +65,7 @@ void UpdatePeriodGrid() {
 void UpdateFishAgesGrid() {
   InputForm& form = *frmInput;
   if (!Selected(form.cmbSelPer) || !Selected(form.cmbNAges)) return;
-  Grid& counts = form.ORVFlexGrid(11);
+  Grid& counts = form.ORVFlexGrid(kGridFisherySelAges);
   counts.Resize(NewNSelPer + 1, 2);
   counts.SetTextMatrix(0, 1, "# Ages");
   ResetCounts(counts, counts.Visible() ? "Fishery" : nullptr);
@@ -79,7 +80,7 @@ void UpdateFishAgesGrid() {
 void UpdateSurvAgesGrid() {
   InputForm& form = *frmInput;
   if (!Selected(form.cmbNIndex) || !Selected(form.cmbNAges)) return;
-  Grid& counts = form.ORVFlexGrid(12);
+  Grid& counts = form.ORVFlexGrid(kGridSurveySelAges);
   counts.Resize(NewNIndex + 1, 2);
   counts.SetTextMatrix(0, 1, "# Ages");
   ResetCounts(counts, "Survey");
@@ -89,19 +90,19 @@ void UpdateSurvAgesGrid() {
 
 void UpdateFishParGrid() {
   if (!Selected(frmInput->cmbSelPer)) return;
-  Grid& grid = frmPin->ORVFlexGrid1(2);
+  Grid& grid = frmPin->ORVFlexGrid1(kPinFisheryCurve);
   grid.Resize(4, NewNSelPer + 1);
   grid.SetTextMatrix(1, 0, "log gamma");
   grid.SetTextMatrix(2, 0, "log beta");
   grid.SetTextMatrix(3, 0, "log a50");
   for (int period = 1; period <= NewNSelPer; ++period)
     grid.SetTextMatrix(0, period, PeriodLabel(period, kWideGap));
-  ShowLogGammaRow(grid, frmInput->opFishSelParametric(0).Value());
+  ShowLogGammaRow(grid, frmInput->opFishSelParametric(kFlatTopped).Value());
 }
 
 void UpdateFishNonParGrid() {
   if (!Selected(frmInput->cmbSelPer) || !Selected(frmInput->cmbNAges)) return;
-  Grid& grid = frmPin->ORVFlexGrid1(4);
+  Grid& grid = frmPin->ORVFlexGrid1(kPinFisheryByPeriod);
   grid.Resize(NewNSelPer + 1, NewNAges + 1);
   SetAgeHeaders(grid);
   for (int period = 1; period <= NewNSelPer; ++period)
@@ -111,7 +112,7 @@ void UpdateFishNonParGrid() {
 
 void UpdateSurvNonParGrid() {
   if (!Selected(frmInput->cmbNIndex) || !Selected(frmInput->cmbNAges)) return;
-  Grid& grid = frmPin->ORVFlexGrid1(6);
+  Grid& grid = frmPin->ORVFlexGrid1(kPinSurveyByAge);
   grid.Resize(NewNIndex + 1, NewNAges + 1);
   SetAgeHeaders(grid);
   for (int survey = 1; survey <= NewNIndex; ++survey)

@@ -1,4 +1,4 @@
-// The nonparametric selectivity grids of frmPin, painted by the counts of ages to estimate.
+#include "inputedit/selectivity_paint.h"
 
 #include <algorithm>
 #include <vector>
@@ -7,7 +7,6 @@
 #include "core/text.h"
 #include "inputedit/frminput.h"
 #include "inputedit/frmpin.h"
-#include "inputedit/options.h"
 #include "platform/host.h"
 
 namespace tarnvik {
@@ -76,8 +75,8 @@ void WarnOfAgeCount(const char* fleet) {
 }
 
 void PaintFishPeriodGrid() {
-  Grid& grid = frmPin->ORVFlexGrid1(4);
-  Grid& counts = frmInput->ORVFlexGrid(11);
+  Grid& grid = frmPin->ORVFlexGrid1(kPinFisheryByPeriod);
+  Grid& counts = frmInput->ORVFlexGrid(kGridFisherySelAges);
   if (!frmInput->txtFishSelAge.Visible()) {
     PaintRows(grid, CountsOf(counts, "Fishery"));
     return;
@@ -87,16 +86,19 @@ void PaintFishPeriodGrid() {
 }
 
 void PaintFishAnnualGrid() {
-  Grid& grid = frmPin->ORVFlexGrid1(7);
+  Grid& grid = frmPin->ORVFlexGrid1(kPinFisheryAnnual);
   if (frmInput->txtFishSelAge.Visible()) {
     PaintAllRows(grid, SingleCount());
     return;
   }
   // The first period's count is the one that the annual option would take over.
-  const std::vector<int> counts = CountsOf(frmInput->ORVFlexGrid(11), "Fishery");
+  const std::vector<int> counts = CountsOf(frmInput->ORVFlexGrid(kGridFisherySelAges), "Fishery");
   if (counts.size() > 1) PaintAllRows(grid, counts[1]);
 }
 
-void PaintSurvGrid() { PaintRows(frmPin->ORVFlexGrid1(6), CountsOf(frmInput->ORVFlexGrid(12), "Survey")); }
+void PaintSurvGrid() {
+  PaintRows(frmPin->ORVFlexGrid1(kPinSurveyByAge),
+            CountsOf(frmInput->ORVFlexGrid(kGridSurveySelAges), "Survey"));
+}
 
 }  // namespace tarnvik

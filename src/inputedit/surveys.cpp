@@ -10,6 +10,7 @@
 #include "inputedit/dimensions.h"
 #include "inputedit/frminput.h"
 #include "inputedit/grids.h"
+#include "inputedit/labels.h"
 #include "platform/host.h"
 
 namespace tarnvik {
@@ -30,7 +31,7 @@ void SetSurveyDefaults(int survey) {
 }
 
 void FillYearCells(TextTable& table, int survey) {
-  for (int p = 1; p <= table.Rows(); ++p) table(survey, 0, p) = NumberText(NFYear + p - 1);
+  for (int p = 1; p <= table.Rows(); ++p) table(survey, kStoreYear, p) = NumberText(NFYear + p - 1);
 }
 
 // A table of other rows and columns with the cells of this one, whose texts move: row p becomes row p +
@@ -123,9 +124,23 @@ void ReDimSurveys() {
   SurvNYears.ReDim(NIndex);
   SurvTitle.ReDim(NIndex);
   SurvParametric.ReDim(NIndex);
-  SurvYearFit.ReDim(NIndex, 2, NYears);
-  SurvAgeFit.ReDim(NIndex, NAges + 2, NYears);
+  SurvYearFit.ReDim(NIndex, kStoreFit, NYears);
+  SurvAgeFit.ReDim(NIndex, kStoreBeforeAges + NAges, NYears);
   for (int survey = 1; survey <= NIndex; ++survey) SetSurveyDefaults(survey);
+}
+
+void SetUpSurveys() {
+  ReDimSurveys();
+  for (int survey = 1; survey <= NIndex; ++survey) {
+    FillYearCells(SurvYearFit, survey);
+    FillYearCells(SurvAgeFit, survey);
+  }
+  FillSurveyCombo();
+  frmInput->cmbiSurv.SetListIndex(0);
+  frmInput->cmbSurvFYear.FillNumbers(NFYear, NXYear);
+  frmInput->cmbSurvFYear.SetListIndex(0);
+  frmInput->cmbSurvXYear.FillNumbers(NFYear, NXYear);
+  frmInput->cmbSurvXYear.SetListIndex(NYears - 1);
 }
 
 void FillSurveyCombo() {
@@ -134,15 +149,15 @@ void FillSurveyCombo() {
 }
 
 void LoadSurveyGrids(int survey) {
-  LoadGrid(frmInput->ORVFlexGrid(15), 3, SurvAgeFit, survey);
-  LoadGrid(frmInput->ORVFlexGrid(16), 16, SurvYearFit, survey);
+  LoadGrid(frmInput->ORVFlexGrid(kGridSurveyAge), kBuildSurveyAge, SurvAgeFit, survey);
+  LoadGrid(frmInput->ORVFlexGrid(kGridSurveyIndex), kBuildSurveyIndex, SurvYearFit, survey);
 }
 
 void StoreSurveyGrid(int grid) {
   const int survey = SelectedSurvey();
   if (survey == 0) return;
-  if (grid == 15) StoreGrid(frmInput->ORVFlexGrid(15), SurvAgeFit, survey);
-  if (grid == 16) StoreGrid(frmInput->ORVFlexGrid(16), SurvYearFit, survey);
+  if (grid == 15) StoreGrid(frmInput->ORVFlexGrid(kGridSurveyAge), SurvAgeFit, survey);
+  if (grid == 16) StoreGrid(frmInput->ORVFlexGrid(kGridSurveyIndex), SurvYearFit, survey);
 }
 
 void ShowSelectedSurvey() {
@@ -159,7 +174,7 @@ void RefitSurveyYears() {
   InputForm& form = *frmInput;
   if (form.cmbNFYear.ListIndex() < 0 || form.cmbNXYear.ListIndex() < 0 || form.cmbNIndex.ListIndex() < 0)
     return;
-  CheckCaseSize(NewNYears, SurvAgeFit.LastColumn() - 2, NIndex);
+  CheckCaseSize(NewNYears, SurvAgeFit.LastColumn() - kStoreBeforeAges, NIndex);
   const int shift = NFYear - NewNFYear;
   SurvYearFit = Refitted(SurvYearFit, SurvYearFit.LastColumn(), NewNYears, shift);
   SurvAgeFit = Refitted(SurvAgeFit, SurvAgeFit.LastColumn(), NewNYears, shift);
@@ -172,7 +187,9 @@ void RefitSurveyYears() {
   form.cmbSurvXYear.FillNumbers(NewNFYear, NewNXYear);
 }
 
-void RefitSurveyAges() { SurvAgeFit = Refitted(SurvAgeFit, NewNAges + 2, SurvAgeFit.Rows(), 0); }
+void RefitSurveyAges() {
+  SurvAgeFit = Refitted(SurvAgeFit, kStoreBeforeAges + NewNAges, SurvAgeFit.Rows(), 0);
+}
 
 void ChangeSurveyCount() {
   if (LoadingForm == kTrue || NewNIndex == NIndex) return;
@@ -190,10 +207,12 @@ void ChangeSurveyCount() {
     FillYearCells(SurvYearFit, survey);
     FillYearCells(SurvAgeFit, survey);
   }
-  for (int build_index : {11, 4, 9, 13}) BuildGrid(build_index);
-  RefreshSurveyLists(4);
-  RefreshSurveyLists(3);
-  for (int build_index : {34, 35, 36}) BuildGrid(build_index);
+  for (int build_index : {kBuildIndexAges, kBuildSurveyZ, kBuildSurveyEmphasis, kBuildSurveySelAges}) {
+    BuildGrid(build_index);
+  }
+  RefreshSurveyLists(kLabelsSurveyFit);
+  RefreshSurveyLists(kLabelsSurveySample);
+  for (int build_index : {kBuildPinSurveyIndex, kBuildSurveyCurve, kBuildSurveyByAge}) BuildGrid(build_index);
   FillSurveyCombo();
   if (NIndex > 0) frmInput->cmbiSurv.SetListIndex(0);
 }

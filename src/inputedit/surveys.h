@@ -23,6 +23,10 @@ void CheckCaseSize(int years, int ages, int surveys);
 // span and no fit flag. The year cells of both tables stay empty. Beyond the bound of a table the store stays
 // as it was, no dimension is in force any more (all 0) and 7 "Out of memory" is raised.
 void ReDimSurveys();
+// ReDimSurveys; then each survey has the years of the case in its year cells, and the combos of the surveys
+// offer what the case has: the first survey, first and last year are selected. For the time that LoadingForm
+// is set.
+void SetUpSurveys();
 // Refits the store to the wanted years: rows keep their year, those outside are lost, new ones are empty. A
 // survey's own span is cut, never widened; a survey wholly outside keeps the one year at the near end.
 // Refills cmbSurvFYear and cmbSurvXYear, with nothing selected. Does nothing unless cmbNFYear, cmbNXYear and

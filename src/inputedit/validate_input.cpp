@@ -32,7 +32,7 @@ bool CheckEmphasis(int tab, std::initializer_list<int> factors) {
 
 bool CheckGeneral() {
   const InputForm& form = *frmInput;
-  const bool boot = form.opBoot(1).Value();
+  const bool boot = form.opBoot(kBootstrap).Value();
   const FieldCheck checks[] = {
       {boot, form.txtNBoot, Blank, "Missing Value for the Number of Bootstrap Repetitions"},
       {boot, form.txtNBoot, NegativeOrNoNumber, "Invalid Value for the Number of Bootstrap Repetitions"},
@@ -46,26 +46,27 @@ bool CheckGeneral() {
 
 // The words over the age cells are those of the Maturity tab, as users have always met them.
 const GridCheck kFisheryAge[] = {
-    {Column(1, 1),
+    {Column(kGridFisheryAge, 1),
      {Blank,
       "Fishery Age Data Incomplete\r\nMissing Choice for Fitting Fishery Age Compostition Data at Year %y"},
      {NotYesOrNo,
       "Invalid Value for Fitting Fishery Age Compostition Data at Year %y\r\n"
       "Please Enter Either 'y' for Yes or 'n' for No"}},
-    {Column(1, 2),
+    {Column(kGridFisheryAge, 2),
      {Blank, "Fishery Age Composition Data Incomplete\r\nMissing Sample Size at Year %y"},
      {Negative, "Invalid Value for Fishery Age Data Sample Size for Year %y"}},
-    {AgeColumns(1, 3), {Blank, "Maturity at Age Data Incomplete\r\nMissing Value for Age %n at Year %y"}},
+    {AgeColumns(kGridFisheryAge, 3),
+     {Blank, "Maturity at Age Data Incomplete\r\nMissing Value for Age %n at Year %y"}},
 };
 
 bool CheckFisheryAge() { return CheckGrids(kTabFisheryAge, kFisheryAge); }
 
 const GridCheck kCpue = {
-    Column(5, 1),
+    Column(kGridCpue, 1),
     {Blank, "Fishery CPUE Data Incomplete\r\nMissing Value for Observed Fishery CPUE at Year %y"}};
 // The letter alone: the data file takes "yes" for a no here.
 const GridCheck kCpueFit = {
-    Column(5, 2),
+    Column(kGridCpue, 2),
     {Blank, "Fishery CPUE Data Incomplete\r\nMissing Choice for Fitting Fishery CPUE Data at Year %y"},
     {NotJustYOrN,
      "Invalid Value for Fitting Fishery CPUE Data at Year %y\r\n"
@@ -89,7 +90,7 @@ bool PeriodFault(const char* words, int period) {
 
 // The start years of the fishery selectivity periods.
 bool CheckPeriods() {
-  const Grid& grid = frmInput->ORVFlexGrid(8);
+  const Grid& grid = frmInput->ORVFlexGrid(kGridPeriods);
   double previous = 0;
   for (int i = 1; i <= NewNSelPer; ++i) {
     const std::string& cell = grid.TextMatrix(i, 1);
@@ -119,7 +120,7 @@ bool CheckPeriods() {
 }
 
 const GridCheck kPeriodAgeCounts = {
-    Column(11, 1),
+    Column(kGridFisherySelAges, 1),
     {Blank, "Ages to Estimate Fishery Selectivity are Incomplete\r\nMissing Value for Selectivity Period %r"},
     {NotAnAgeCount, "Invalid Value for Age to Estimate Fishery Selectivity\r\nfor Selectivity Period %r"}};
 
@@ -141,7 +142,7 @@ FieldCheck PhaseInView(const TextBox& phase, const char* words) {
 
 bool CheckFisherySelectivity() {
   const InputForm& form = *frmInput;
-  if (!form.opFSelModel(0).Value() && !form.opFSelModel(1).Value()) {
+  if (!form.opFSelModel(kParametric).Value() && !form.opFSelModel(kNonparametric).Value()) {
     return InputFault(kTabFisherySelectivity, "Please Specify a Fishery Selectivity Model");
   }
   const FieldCheck phases[] = {
@@ -164,9 +165,11 @@ bool CheckFisheryOptions() {
   const auto& estimate = form.chkEstimate;
   const auto& phase = form.txtEstimate;
   const FieldCheck phases[] = {
-      PhaseIf(estimate(10), phase(10), "Invalid Value for Phase to begin Estimating CPUE q"),
-      PhaseIf(estimate(11), phase(11), "Invalid Value for Phase to begin Estimating CPUE exponent"),
-      PhaseIf(estimate(4), phase(4), "Invalid Value for Phase to Estimate Effective Sample Size for Fishery"),
+      PhaseIf(estimate(kItemCpueQ), phase(kItemCpueQ), "Invalid Value for Phase to begin Estimating CPUE q"),
+      PhaseIf(estimate(kItemCpueExponent), phase(kItemCpueExponent),
+              "Invalid Value for Phase to begin Estimating CPUE exponent"),
+      PhaseIf(estimate(kItemFisherySample), phase(kItemFisherySample),
+              "Invalid Value for Phase to Estimate Effective Sample Size for Fishery"),
   };
   return CheckFields(kTabFisheryOptions, phases) && CheckEmphasis(kTabFisheryOptions, {0, 2, 4});
 }
@@ -174,20 +177,22 @@ bool CheckFisheryOptions() {
 // --- Surveys
 
 const GridCheck kSurveyIndex = {
-    Column(16, 1), {Blank, "Survey Biomass Index Data Incomplete for Survey %s\r\nMissing Value Year %y"}};
+    Column(kGridSurveyIndex, 1),
+    {Blank, "Survey Biomass Index Data Incomplete for Survey %s\r\nMissing Value Year %y"}};
 const GridCheck kSurveyIndexFit = {
-    Column(16, 2),
+    Column(kGridSurveyIndex, 2),
     {Blank,
      "Survey Biomass Index Data Incomplete for Survey %s\r\nMissing Choice to Fit Index Values for Year %y"},
     {NotYesOrNo, "Invalid Value for Choice to Fit Survey %s Index Values in Year %y"}};
 const GridCheck kSurveyAge[] = {
-    {Column(15, 1),
+    {Column(kGridSurveyAge, 1),
      {Blank, "Survey %s Data Incomplete\r\nMissing Sample Size Value at Year %y"},
      {Negative, "Invalid Value for Survey %s Sample Size\r\nat Year %y"}},
-    {Column(15, 2),
+    {Column(kGridSurveyAge, 2),
      {Blank, "Survey %s Data Incomplete\r\nMissing Choice to Fit Age Composition Values  for Year %y"},
      {NotYesOrNo, "Invalid Value for Survey %s Choice to Fit Age Composition Values in Year %y"}},
-    {AgeColumns(15, 3), {Blank, "Survey %s Data Incomplete\r\nMissing Value for Age %n at Year %y"}},
+    {AgeColumns(kGridSurveyAge, 3),
+     {Blank, "Survey %s Data Incomplete\r\nMissing Value for Age %n at Year %y"}},
 };
 
 bool CheckSelectedSurvey() {
@@ -209,16 +214,16 @@ bool CheckSurveyData() {
 }
 
 const GridCheck kSurveyAgeCounts = {
-    Column(12, 1),
+    Column(kGridSurveySelAges, 1),
     {Blank, "Missing Value for Number of Age Groups to Estimate Survey Selectivity"},
     {NotAnAgeCount, "Invalid Value for Number of Age Groups to Estimate Survey Selectivity"}};
 
 bool CheckSurveySelectivity() {
   const InputForm& form = *frmInput;
   const FieldCheck phases[] = {
-      PhaseInView(form.txtSurvSelParEst(0), "Invalid Value for Phase to Estimate Survey log gamma"),
-      PhaseInView(form.txtSurvSelParEst(1), "Invalid Value for Phase to Estimate Survey log beta"),
-      PhaseInView(form.txtSurvSelParEst(2), "Invalid Value for Phase to Estimate Survey log a50"),
+      PhaseInView(form.txtSurvSelParEst(kLogGamma), "Invalid Value for Phase to Estimate Survey log gamma"),
+      PhaseInView(form.txtSurvSelParEst(kLogBeta), "Invalid Value for Phase to Estimate Survey log beta"),
+      PhaseInView(form.txtSurvSelParEst(kLogA50), "Invalid Value for Phase to Estimate Survey log a50"),
       PhaseInView(form.txtSurvSelNonParEst,
                   "Invalid Value for Phase to Estimate Nonparametric Survey Selectivity"),
   };
@@ -226,7 +231,7 @@ bool CheckSurveySelectivity() {
 }
 
 const GridCheck kSurveyAges = {
-    AllColumns(10, 1),
+    AllColumns(kGridIndexAges, 1),
     {Blank, "Grid of Ages to Include in Surveys is Incomplete\r\nMissing Choice for Survey %n for %y"},
     {NotYesOrNo,
      "Invalid Value for Including %y in Survey %n\r\n"
@@ -234,7 +239,7 @@ const GridCheck kSurveyAges = {
 
 // Fractions of Z stand in row 1, one column per survey; a blank one counts as 0.
 bool CheckSurveyFractions() {
-  const Grid& grid = frmInput->ORVFlexGrid(3);
+  const Grid& grid = frmInput->ORVFlexGrid(kGridSurveyZ);
   for (int col = 0; col < grid.Cols(); ++col) {
     if (!NotAFraction(grid.TextMatrix(1, col))) continue;
     return InputFault(kTabSurveyOptions,
@@ -244,10 +249,10 @@ bool CheckSurveyFractions() {
 }
 
 const GridCheck kSurveyEmphasis[] = {
-    {Column(9, 1),
+    {Column(kGridSurveyEmphasis, 1),
      {Blank, "Missing Value for Age Composition Likelihood for %y"},
      {Negative, "Invalid Value for Age Composition Likelihood for %y"}},
-    {Column(9, 2),
+    {Column(kGridSurveyEmphasis, 2),
      {Blank, "Missing Value for Biomass Index Likelihood for %y"},
      {Negative, "Invalid Value for Biomass Index Likelihood for %y"}},
 };
@@ -255,9 +260,9 @@ const GridCheck kSurveyEmphasis[] = {
 bool CheckSurveyOptions() {
   const InputForm& form = *frmInput;
   const FieldCheck phases[] = {
-      PhaseIf(form.chkEstimate(2), form.txtEstimate(2),
+      PhaseIf(form.chkEstimate(kItemSurveyQ), form.txtEstimate(kItemSurveyQ),
               "Invalid Value for Phase to begin Estimating Survey q"),
-      PhaseIf(form.chkEstimate(3), form.txtEstimate(3),
+      PhaseIf(form.chkEstimate(kItemSurveyExponent), form.txtEstimate(kItemSurveyExponent),
               "Invalid Value for Phase to begin Estimating Survey Exponent"),
       {form.listSurvSample.AnySelected(), form.txtEstSurvSample, NegativeOrBlank,
        "Invalid Value for Phase to begin Estimating Effective Sample Size for Surveys"},
@@ -273,7 +278,7 @@ bool CatchFault(const char* words, int row) {
 }
 
 bool CheckCatchBiomass() {
-  const Grid& grid = frmInput->ORVFlexGrid(0);
+  const Grid& grid = frmInput->ORVFlexGrid(kGridCatch);
   for (int row = 1; row < grid.Rows(); ++row) {
     const std::string& cell = grid.TextMatrix(row, 1);
     if (Blank(cell)) return CatchFault("Catch Data is Incomplete\r\nMissing Value for year ", row);
@@ -283,19 +288,19 @@ bool CheckCatchBiomass() {
 }
 
 const GridCheck kCatchWeight = {
-    AgeColumns(6, 1),
+    AgeColumns(kGridCatchWeight, 1),
     {Blank, "Catch Weight at Age Data Incomplete\r\nMissing Value for Age %n at Year %y"},
     {Negative, "Invalid Value for Catch Weight at Age %n at Year %y"}};
 const GridCheck kStockWeight = {
-    AgeColumns(4, 1),
+    AgeColumns(kGridStockWeight, 1),
     {Blank, "Stock Weight at Age Data Incomplete\r\nMissing Value for Age %n at Year %y"},
     {Negative, "Invalid Value for Stock Weight at Age %n at Year %y"}};
 const GridCheck kSpawnWeight = {
-    AgeColumns(14, 1),
+    AgeColumns(kGridSpawnWeight, 1),
     {Blank, "Spawning Weight at Age Data Incomplete\r\nMissing Value for Age %n at Year %y"},
     {Negative, "Invalid Value for Spawning Weight at Age %n at Year %y"}};
 const GridCheck kMaturity = {
-    AgeColumns(7, 1),
+    AgeColumns(kGridMaturity, 1),
     {Blank, "Maturity at Age Data Incomplete\r\nMissing Value for Age %n at Year %y"},
     {Negative, "Invalid Value for Maturity at Age %n at Year %y"}};
 
@@ -314,11 +319,11 @@ bool CheckSpawnWeight() {
 
 bool CheckPhases() {
   const InputForm& form = *frmInput;
-  const CheckBox& estimate_m = form.chkEstimate(1);
+  const CheckBox& estimate_m = form.chkEstimate(kItemM);
   const FieldCheck checks[] = {
       {true, form.txtEpsilon, NegativeOrBlank, "Invalid Value for Small Positive Number to Prevent log(0)"},
-      PhaseIf(estimate_m, form.txtEstimate(0), "Invalid Value for CV for M"),
-      PhaseIf(estimate_m, form.txtEstimate(1), "Invalid Value for Phase to Begin Estimating M"),
+      PhaseIf(estimate_m, form.txtEstimate(kItemMCv), "Invalid Value for CV for M"),
+      PhaseIf(estimate_m, form.txtEstimate(kItemM), "Invalid Value for Phase to Begin Estimating M"),
       PhaseIf(form.chkEstimateLogRec, form.txtPhaseLogRec,
               "Invalid Value for Phase to Estimate Mean Logscale Recruitment"),
       PhaseIf(form.chkEstimateRecDev, form.txtPhaseRecDev,
@@ -332,7 +337,7 @@ bool CheckPhases() {
 }
 
 double SmallestCatch() {
-  const Grid& grid = frmInput->ORVFlexGrid(0);
+  const Grid& grid = frmInput->ORVFlexGrid(kGridCatch);
   double smallest = grid.Rows() > 1 ? Val(grid.TextMatrix(1, 1)) : 0.0;
   for (int row = 2; row < grid.Rows(); ++row) smallest = std::min(smallest, Val(grid.TextMatrix(row, 1)));
   return smallest;
@@ -340,8 +345,8 @@ double SmallestCatch() {
 
 // An equilibrium catch below all catches is doubtful, not wrong: the one warning that stops nothing.
 bool CheckEquilibriumCatch() {
-  const TextBox& field = frmInput->txtEstimate(5);
-  if (!frmInput->chkEstimate(5).IsChecked()) return true;
+  const TextBox& field = frmInput->txtEstimate(kItemInitialF);
+  if (!frmInput->chkEstimate(kItemInitialF).IsChecked()) return true;
   const FieldCheck checks[] = {
       {true, field, Blank, "Missing Value for Initial Equilibrium for Catch Biomass"},
       {true, field, Negative, "Invalid Value for Initial Equilibrium for Catch Biomass"},
@@ -356,7 +361,7 @@ bool CheckEquilibriumCatch() {
 }
 
 bool CheckDeterminationCriteria() {
-  if (!frmInput->chkEstimate(6).IsChecked()) return true;
+  if (!frmInput->chkEstimate(kItemCriteria).IsChecked()) return true;
   const char* names[] = {"Target F", "Limit F", "Target Spawning Biomass", "Limit Spawning Biomass"};
   for (int i = 0; i < 4; ++i) {
     if (!CheckNamed(kTabFittingOptions, frmInput->txtEstimate(12 + i), Negative, names[i])) return false;
@@ -386,7 +391,7 @@ bool CheckFittingOptions() {
 
 void ValidateInputData() {
   InputValid = kFalse;
-  for (const int which : {0, 1}) {
+  for (const int which : {kToolCpue, kToolFisheryAge}) {
     if (frmInput->cmdCondenseGrd(which).Enabled()) CondenseGrid(which);
   }
   const bool valid = CheckGeneral() && CheckFisheryAge() && CheckCpue() && CheckFisherySelectivity() &&

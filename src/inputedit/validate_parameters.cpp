@@ -122,7 +122,8 @@ const ParameterField kFisheryCpue[] = {
 
 bool CheckParametricFishery() {
   const bool parametric = frmPin->frmParFishSel.Visible();
-  const bool gamma_shown = frmPin->ORVFlexGrid1(2).RowHeight(1) != 0;  // hidden when flat-topped
+  const bool gamma_shown =
+      frmPin->ORVFlexGrid1(kPinFisheryCurve).RowHeight(1) != 0;  // hidden when flat-topped
   const ParameterRow rows[] = {
       {parametric && gamma_shown, 2, 1, {-60, 1}, "log gamma"},
       {parametric, 2, 2, {-60, 10}, "log beta"},
@@ -140,14 +141,14 @@ bool CheckParametricFishery() {
 }
 
 const GridCheck kPeriodCounts = {
-    Column(11, 1),
+    Column(kGridFisherySelAges, 1),
     {NotAnAgeCount, "Number of Ages to Estimate Fishery Selectivity is Invalid for Selectivity Period %r"}};
 
 bool CheckPeriodFishery() {
   if (!frmPin->frmNonParFishSel1.Visible()) return true;
   if (!CheckGrid(kTabFisherySelectivity, kPeriodCounts)) return false;
-  const Grid& counts = frmInput->ORVFlexGrid(11);
-  for (int row = 1; row < frmPin->ORVFlexGrid1(4).Rows(); ++row) {
+  const Grid& counts = frmInput->ORVFlexGrid(kGridFisherySelAges);
+  for (int row = 1; row < frmPin->ORVFlexGrid1(kPinFisheryByPeriod).Rows(); ++row) {
     if (!CheckUsedCells(kTabFishery, 4, row, counts.TextMatrix(row, 1),
                         "Log of Fishery Selectivity Parameters Data is Incomplete\r\n"
                         "Missing Value for Age %a")) {
@@ -163,7 +164,7 @@ bool CheckAnnualFishery() {
   const FieldCheck checks[] = {
       {true, count, NotAnAgeCount, "Number of Ages to Estimate Fishery Selectivity is Invalid"}};
   if (!CheckFields(kTabFisherySelectivity, checks)) return false;
-  for (int row = 1; row < frmPin->ORVFlexGrid1(7).Rows(); ++row) {
+  for (int row = 1; row < frmPin->ORVFlexGrid1(kPinFisheryAnnual).Rows(); ++row) {
     if (!CheckUsedCells(kTabFishery, 7, row, count.Text(),
                         "Log of Annual Nonparametric Fishery Selectivity Parameters Data is Incomplete\r\n"
                         "Missing Value for Age %a for Year %y")) {
@@ -182,7 +183,7 @@ bool CheckFishery() {
 
 bool CheckSurveyParameters() {
   const bool parametric = frmPin->frmParSurvSel.Visible();
-  const bool gamma_shown = frmPin->ORVFlexGrid1(5).RowHeight(1) != 0;
+  const bool gamma_shown = frmPin->ORVFlexGrid1(kPinSurveyCurve).RowHeight(1) != 0;
   const ParameterRow rows[] = {
       {true, 3, 1, {0, 100000}, "q"},
       {true, 3, 2, {0, 10}, "exponent"},
@@ -202,13 +203,14 @@ bool CheckSurveyParameters() {
 }
 
 const GridCheck kSurveyCounts = {
-    Column(12, 1), {NotAnAgeCount, "Number of Ages to Estimate Survey Selectivity is Invalid for Survey %r"}};
+    Column(kGridSurveySelAges, 1),
+    {NotAnAgeCount, "Number of Ages to Estimate Survey Selectivity is Invalid for Survey %r"}};
 
 bool CheckNonparametricSurveys() {
   if (!frmPin->frmNonParSurvSel.Visible()) return true;
   if (!CheckGrid(kTabSurveySelectivity, kSurveyCounts)) return false;
-  const Grid& counts = frmInput->ORVFlexGrid(12);
-  for (int row = 1; row < frmPin->ORVFlexGrid1(6).Rows(); ++row) {
+  const Grid& counts = frmInput->ORVFlexGrid(kGridSurveySelAges);
+  for (int row = 1; row < frmPin->ORVFlexGrid1(kPinSurveyByAge).Rows(); ++row) {
     if (!CheckUsedCells(kTabSurvey, 6, row, counts.TextMatrix(row, 1),
                         "Log of Nonparametric Survey Selectivity Parameter Data is Incomplete\r\n"
                         "Missing Value for Age %a for Survey %r")) {

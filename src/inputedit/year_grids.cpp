@@ -1,4 +1,5 @@
-// Grids whose rows are years: refitting keeps each row's values with its year.
+#include "inputedit/year_grids.h"
+
 #include <algorithm>
 #include <string>
 #include <utility>
@@ -6,7 +7,6 @@
 
 #include "core/globals.h"
 #include "core/text.h"
-#include "inputedit/dimensions.h"
 #include "inputedit/frminput.h"
 #include "inputedit/frmpin.h"
 #include "inputedit/grids.h"
@@ -79,7 +79,8 @@ std::int16_t RecDevStartYear() {
   const int first_year = ValInt(frmInput->cmbNFYear.Text());
   const int recruitment_year = ValInt(frmInput->cmbRecYr.Text());
   const int ages = ValInt(frmInput->cmbNAges.Text());
-  if (!frmInput->chkEstimate(5).IsChecked() && recruitment_year != first_year) return Int16(recruitment_year);
+  if (!frmInput->chkEstimate(kItemInitialF).IsChecked() && recruitment_year != first_year)
+    return Int16(recruitment_year);
   return Int16(first_year - ages + 1);  // one whole span of ages back: the cohorts of the first data year
 }
 
@@ -89,14 +90,15 @@ void UpdateRecDevGrid() {
     if (combo->ListIndex() < 0) return;
   }
   NewRecYr = RecDevStartYear();
-  RefitDeviations(frmPin->ORVFlexGrid1(0), NewRecYr, ValInt(form.cmbNXYear.Text()));
+  RefitDeviations(frmPin->ORVFlexGrid1(kPinRecDevs), NewRecYr, ValInt(form.cmbNXYear.Text()));
   RecYr = NewRecYr;
 }
 
 void UpdateFMortDevGrid() {
   InputForm& form = *frmInput;
   if (form.cmbNFYear.ListIndex() < 0 || form.cmbNXYear.ListIndex() < 0) return;
-  RefitDeviations(frmPin->ORVFlexGrid1(1), ValInt(form.cmbNFYear.Text()), ValInt(form.cmbNXYear.Text()));
+  RefitDeviations(frmPin->ORVFlexGrid1(kPinFDevs), ValInt(form.cmbNFYear.Text()),
+                  ValInt(form.cmbNXYear.Text()));
 }
 
 }  // namespace tarnvik

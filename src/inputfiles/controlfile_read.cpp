@@ -56,8 +56,8 @@ bool ReadNames() {
   const bool found = TakeNamedFile(PinFilePath, "Parameter Input File is Not Available in Path Specified") &&
                      TakeNamedFile(DatFilePath, "Input Data File is Not Available in Path Specified");
   if (!found) {
-    ShowPath(frmInput->lblFile(0), kNoneSelected);
-    ShowPath(frmInput->lblFile(1), kNoneSelected);
+    ShowPath(frmInput->lblFile(kFilePin), kNoneSelected);
+    ShowPath(frmInput->lblFile(kFileDat), kNoneSelected);
   }
   File1.Close();
   return found;

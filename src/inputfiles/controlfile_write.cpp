@@ -53,8 +53,9 @@ void WriteControlFile() {
   FilesSaved = kFalse;
   const bool named =
       TakePath(frmInput->lblCTL, CtlFilePath, "Please Open or Create a New Control File") &&
-      TakePath(frmInput->lblFile(0), PinFilePath, "Please Open or Create a New Parameter Input File") &&
-      TakePath(frmInput->lblFile(1), DatFilePath, "Please Open or Create a New Input Data File");
+      TakePath(frmInput->lblFile(kFilePin), PinFilePath,
+               "Please Open or Create a New Parameter Input File") &&
+      TakePath(frmInput->lblFile(kFileDat), DatFilePath, "Please Open or Create a New Input Data File");
   if (!named) return;
   try {
     WriteNames();

@@ -30,13 +30,13 @@ bool ColumnsEmpty(const Grid& grid, int first_col, int last_col) {
 
 bool ParametersBlank() {
   PinForm& pin = *frmPin;
-  for (const int field : {0, 1, 2}) {
+  for (const int field : {kParmM, kParmLogRec, kParmLogF}) {
     if (!pin.txtParmFile(field).Text().empty()) return false;
   }
-  for (const int deviations : {0, 1}) {
+  for (const int deviations : {kPinRecDevs, kPinFDevs}) {
     if (!ColumnsEmpty(pin.ORVFlexGrid1(deviations), 1, 1)) return false;
   }
-  for (const int grid : {2, 3, 4}) {
+  for (const int grid : {kPinFisheryCurve, kPinSurveyIndex, kPinFisheryByPeriod}) {
     if (!ColumnsEmpty(pin.ORVFlexGrid1(grid), 1, pin.ORVFlexGrid1(grid).Cols() - 1)) return false;
   }
   return true;
@@ -81,7 +81,7 @@ void SaveDataFileAs() {
   const auto path = AskSaveName({true, "Save Input Data File", kFilter, "dat"});
   if (!path) return;
   DatFilePath = *path;
-  ShowPath(frmInput->lblFile(1), *path);
+  ShowPath(frmInput->lblFile(kFileDat), *path);
   WriteDataFile();
 }
 

@@ -8,7 +8,9 @@
 #include "core/globals.h"
 #include "inputedit/dimensions.h"
 #include "inputedit/grids.h"
+#include "inputedit/labels.h"
 #include "inputedit/surveys.h"
+#include "inputedit/year_grids.h"
 #include "inputfiles/casefiles.h"
 #include "inputfiles/datafile.h"
 #include "inputfiles/file_version.h"
@@ -123,53 +125,35 @@ void ReadDimensions(InputForm& form) {
   form.cmbSelPer.SetListIndex(NewNSelPer - 1);
 }
 
-void CommitDimensions() {
-  NFYear = NewNFYear;
-  NXYear = NewNXYear;
-  NYears = NewNYears;
-  NAges = NewNAges;
-  NIndex = NewNIndex;
-  NSelPer = NewNSelPer;
-  NewRecYr = RecDevStartYear();
-  RecYr = NewRecYr;
-  FishAgeNYears = FishCPUENYears = NYears;
-}
-
-void ShapeSurveys(InputForm& form) {
-  ReDimSurveys();
+// The year cells of a survey hold the first year, moved on by the number of the survey, until its own years
+// are read.
+void PutSurveyYearsToCome() {
   for (int survey = 1; survey <= NIndex; ++survey) {
-    // Rows that the survey turns out to have get their own years later.
     const std::string year = NumberText(NFYear + survey - 1);
     for (int row = 1; row <= NYears; ++row) {
-      SurvYearFit(survey, 0, row) = year;
-      SurvAgeFit(survey, 0, row) = year;
+      SurvYearFit(survey, kStoreYear, row) = year;
+      SurvAgeFit(survey, kStoreYear, row) = year;
     }
   }
-  FillSurveyCombo();
-  form.cmbiSurv.SetListIndex(0);
-  form.cmbSurvFYear.FillNumbers(NFYear, NXYear);
-  form.cmbSurvFYear.SetListIndex(0);
-  form.cmbSurvXYear.FillNumbers(NFYear, NXYear);
-  form.cmbSurvXYear.SetListIndex(NYears - 1);
 }
 
 void ShapeGrids(InputForm& form) {
   BuildAllInputGrids();
-  UpdateRecDevGrid();
-  UpdateFMortDevGrid();
   BuildAllPinGrids();
-  for (const int set : {3, 2, 4}) LabelPeriods(set);
-  LabelSurveys(3);
-  LabelSurveys(4);
+  LabelPeriods();
+  LabelSurveys(kLabelsSurveySample);
+  LabelSurveys(kLabelsSurveyFit);
   form.lstCPUEages.Clear();
-  for (int age = 1; age <= NAges; ++age) form.lstCPUEages.AddItem("Age " + NumberText(age));
+  RefreshAgeLists();
 }
 
 void ReadFields(InputForm& form) {
   const double version = ReadHead(form);
   ReadDimensions(form);
+  NewRecYr = RecDevStartYear();
   CommitDimensions();
-  ShapeSurveys(form);
+  SetUpSurveys();
+  PutSurveyYearsToCome();
   ShapeGrids(form);
   // From here on each value that is put into a field runs the handlers that depend on it.
   LoadingForm = kFalse;
@@ -184,7 +168,7 @@ void ReadFields(InputForm& form) {
 
 // What a case with data can do, and what it can do with parameters as well.
 void OfferCommands(InputForm& form) {
-  for (const int grid : {0, 1}) {
+  for (const int grid : {kToolCpue, kToolFisheryAge}) {
     form.cmdExpandGrd(grid).SetEnabled(true);
     form.cmdCondenseGrd(grid).SetEnabled(false);
   }
@@ -212,7 +196,7 @@ void OfferCommands(InputForm& form) {
 void FinishReading(InputForm& form) {
   File1.Close();
   DatFileOpen = kTrue;
-  ShowPath(form.lblFile(1), DatFilePath);
+  ShowPath(form.lblFile(kFileDat), DatFilePath);
   OfferCommands(form);
   ShowGeneralTab();
   OutputFormsOpen = StdFileRead = ParFileRead = LoadingForm = kFalse;

@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "core/globals.h"
-#include "inputedit/grids.h"
+#include "inputedit/labels.h"
 #include "inputfiles/datafile_read.h"
 
 namespace tarnvik {
@@ -17,18 +17,18 @@ void ReadPeriods(InputForm& form) {
   if (starts.front() != NFYear) {
     throw RefusedValue{"Start of First Selectivity Period Must be the First Year of Data"};
   }
-  Grid& periods = form.ORVFlexGrid(8);
+  Grid& periods = form.ORVFlexGrid(kGridPeriods);
   for (std::size_t i = 0; i < starts.size(); ++i) {
     const int row = static_cast<int>(i) + 1;
     const int end = i + 1 < starts.size() ? Int16(starts[i + 1] - 1) : NXYear;
     periods.SetTextMatrix(row, 1, NumberText(starts[i]));
     periods.SetTextMatrix(row, 2, NumberText(end));
   }
-  for (const int set : {3, 2, 4}) LabelPeriods(set);
+  LabelPeriods();
 }
 
 void ReadAgesToEstimate(InputForm& form, double version) {
-  Grid& counts = form.ORVFlexGrid(11);
+  Grid& counts = form.ORVFlexGrid(kGridFisherySelAges);
   if (version >= 1.3) {
     LineWords words(ReadDataLine());
     for (int period = 1; period <= NSelPer; ++period) {
@@ -71,7 +71,7 @@ void ReadSmoothers(InputForm& form) {
 void ReadCatch(InputForm& form) {
   LineWords words(ReadDataLine());
   for (int row = 1; row <= NYears; ++row) {
-    form.ORVFlexGrid(0).SetTextMatrix(row, 1, CatchText(Val(words.Next())));
+    form.ORVFlexGrid(kGridCatch).SetTextMatrix(row, 1, CatchText(Val(words.Next())));
   }
 }
 
@@ -98,7 +98,7 @@ void ReadCpueAges(ListBox& ages) {
 
 void ReadCpue(InputForm& form) {
   constexpr int kYear = 0, kValue = 1, kFit = 2;
-  Grid& cpue = form.ORVFlexGrid(5);
+  Grid& cpue = form.ORVFlexGrid(kGridCpue);
   FishCPUENYears = ReadGridYears(cpue, "Invalid Value for Number of Years of Fishery CPUE Data");
   ReadCpueAges(form.lstCPUEages);
   ReadFitColumn(cpue, kFit, FishCPUENYears);
@@ -111,7 +111,7 @@ void ReadCpue(InputForm& form) {
 void PutCpueDefaults(InputForm& form) {
   FishCPUENYears = NYears;
   for (int row = 1; row <= NYears; ++row)
-    form.ORVFlexGrid(5).SetTextMatrix(row, 0, NumberText(NFYear + row - 1));
+    form.ORVFlexGrid(kGridCpue).SetTextMatrix(row, 0, NumberText(NFYear + row - 1));
   for (int age = 1; age <= NAges; ++age) form.lstCPUEages.SetSelected(age - 1, true);
   form.txtZCpue.SetText("0.5");
 }
@@ -132,7 +132,7 @@ void ReadAgeYears(Grid& ages) {
 
 void ReadAgeCompositions(InputForm& form, double version) {
   constexpr int kFit = 1, kSamples = 2, kFirstAge = 3;
-  Grid& ages = form.ORVFlexGrid(1);
+  Grid& ages = form.ORVFlexGrid(kGridFisheryAge);
   FishAgeNYears = ReadGridYears(ages, "Invalid Value for Number of Years of Fishery Age Data");
   if (version >= 1.2) {
     ReadFitColumn(ages, kFit, FishAgeNYears);

@@ -1,9 +1,9 @@
 // Reader of the data file: tables at age, coefficients, emphasis factors, flags, phases.
 
 #include "core/globals.h"
-#include "inputedit/dimensions.h"
-#include "inputedit/grids.h"
+#include "inputedit/labels.h"
 #include "inputedit/options.h"
+#include "inputedit/year_grids.h"
 #include "inputfiles/datafile_read.h"
 
 namespace tarnvik {
@@ -22,18 +22,19 @@ void CopyAtAge(const Grid& from, Grid& to) {
 }
 
 void ReadEmphasis(InputForm& form, double version) {
-  if (version >= 1.4) ReadField(form.txtEstimate(0));
-  for (const int coefficient : {1, 2, 3}) ReadField(form.txtVarCoeff(coefficient));
-  ReadField(form.txtLikelihood(1));
+  if (version >= 1.4) ReadField(form.txtEstimate(kItemMCv));
+  for (const int coefficient : {kCvRecruitment, kCvCatch, kCvF}) ReadField(form.txtVarCoeff(coefficient));
+  ReadField(form.txtLikelihood(kEmphasisRecruitment));
   if (version >= 1.2) {
-    ReadField(form.txtLikelihood(0));
+    ReadField(form.txtLikelihood(kEmphasisCpue));
   } else {
-    form.txtLikelihood(0).SetText("1");
+    form.txtLikelihood(kEmphasisCpue).SetText("1");
   }
-  ReadField(form.txtLikelihood(2));
-  ReadColumn(form.ORVFlexGrid(9), 1, NIndex);
-  ReadColumn(form.ORVFlexGrid(9), 2, NIndex);
-  for (const int emphasis : {3, 4, 5}) ReadField(form.txtLikelihood(emphasis));
+  ReadField(form.txtLikelihood(kEmphasisFisheryAge));
+  ReadColumn(form.ORVFlexGrid(kGridSurveyEmphasis), 1, NIndex);
+  ReadColumn(form.ORVFlexGrid(kGridSurveyEmphasis), 2, NIndex);
+  for (const int emphasis : {kEmphasisCatch, kEmphasisSelectivity, kEmphasisF})
+    ReadField(form.txtLikelihood(emphasis));
 }
 
 void ReadShrinkage(InputForm& form, double version) {
@@ -65,10 +66,10 @@ void PutEstimate(CheckBox& item, bool estimated) { item.SetValue(estimated ? 1 :
 void ReadEstimateM(InputForm& form, double version) {
   const int value = ValInt(ReadDataLine());
   const bool estimated = value > 0;
-  PutEstimate(form.chkEstimate(1), estimated);
+  PutEstimate(form.chkEstimate(kItemM), estimated);
   form.cmbMType.SetEnabled(estimated);
   if (version < 1.4) {
-    form.txtEstimate(1).SetText(estimated ? NumberText(value) : "");
+    form.txtEstimate(kItemM).SetText(estimated ? NumberText(value) : "");
   } else if (estimated) {
     form.cmbMType.SetListIndex(value - 1);
   }
@@ -103,10 +104,10 @@ void ReadCpueOptions(InputForm& form, double version) {
   const bool numbers = version >= 1.2 && ValInt(ReadDataLine()) == 1;
   form.opCPUEtype(numbers ? 1 : 0).SetValue(true);
   if (version >= 1.2) {
-    ReadEstimateOrPhase(form, 10, version);
-    ReadEstimateOrPhase(form, 11, version);
+    ReadEstimateOrPhase(form, kItemCpueQ, version);
+    ReadEstimateOrPhase(form, kItemCpueExponent, version);
   } else {
-    PutEstimate(form.chkEstimate(10), true);
+    PutEstimate(form.chkEstimate(kItemCpueQ), true);
   }
 }
 
@@ -120,13 +121,13 @@ void ReadSurveyOptions(InputForm& form, double version) {
     LineWords words(ReadDataLine());
     for (int survey = 1; survey <= NIndex; ++survey) SurvParametric(survey) = IsOne(words.Next()) ? 1 : 0;
   }
-  RefreshSurveyLists(4);
+  RefreshSurveyLists(kLabelsSurveyFit);
   if (version >= 1.2) ReadMarks(form.listSurvFit);
-  PutEstimate(form.chkEstimate(2), ValInt(ReadDataLine()) > 0);
-  if (version < 1.4) form.txtEstimate(2).SetText("6");
+  PutEstimate(form.chkEstimate(kItemSurveyQ), ValInt(ReadDataLine()) > 0);
+  if (version < 1.4) form.txtEstimate(kItemSurveyQ).SetText("6");
   const int exponent = ValInt(ReadDataLine());
-  PutEstimate(form.chkEstimate(3), exponent > 0);
-  if (version < 1.4) form.txtEstimate(3).SetText(exponent > 0 ? NumberText(exponent) : "");
+  PutEstimate(form.chkEstimate(kItemSurveyExponent), exponent > 0);
+  if (version < 1.4) form.txtEstimate(kItemSurveyExponent).SetText(exponent > 0 ? NumberText(exponent) : "");
 }
 
 void ReadSelectivityShapes(InputForm& form) {
@@ -137,21 +138,22 @@ void ReadSelectivityShapes(InputForm& form) {
 }
 
 void ReadSampleSizes(InputForm& form) {
-  PutEstimate(form.chkEstimate(4), IsOne(ReadDataLine()));
-  form.txtEstimate(4).SetText("");
+  PutEstimate(form.chkEstimate(kItemFisherySample), IsOne(ReadDataLine()));
+  form.txtEstimate(kItemFisherySample).SetText("");
   ReadMarks(form.listSurvSample);
   form.listSurvSample.SetListIndex(-1);
 }
 
 void ReadInitialF(InputForm& form) {
-  PutEstimate(form.chkEstimate(5), IsOne(ReadDataLine()));
+  PutEstimate(form.chkEstimate(kItemInitialF), IsOne(ReadDataLine()));
   NewRecYr = RecDevStartYear();
-  ReadField(form.txtEstimate(5));
+  ReadField(form.txtEstimate(kItemInitialF));
 }
 
 void ReadCriteria(InputForm& form) {
-  PutEstimate(form.chkEstimate(6), IsOne(ReadDataLine()));
-  for (const int criterion : {12, 13, 14, 15}) ReadField(form.txtEstimate(criterion));
+  PutEstimate(form.chkEstimate(kItemCriteria), IsOne(ReadDataLine()));
+  for (const int criterion : {kItemTargetF, kItemLimitF, kItemTargetSsb, kItemLimitSsb})
+    ReadField(form.txtEstimate(criterion));
 }
 
 // A phase below 0 says that the item is not estimated; its field is empty then. Returns whether it is
@@ -168,7 +170,7 @@ void ReadPhase(CheckBox& box, TextBox& field) { PutEstimate(box, ReadPhase(field
 // The same pair of controls serves the phase by period (option 0) and the annual one (option 1).
 void ReadNonparametricPhase(InputForm& form, int option) {
   const std::string_view line = Trim(ReadDataLine());
-  const bool parametric = form.opFSelModel(0).Value();
+  const bool parametric = form.opFSelModel(kParametric).Value();
   if (!parametric && !form.opFishSelNonPar(option).Value()) return;
   const bool estimated = !parametric && Val(line) >= 0.0;
   form.chkFishSelNonParEst.SetValue(estimated ? 1 : 0);
@@ -176,22 +178,22 @@ void ReadNonparametricPhase(InputForm& form, int option) {
 }
 
 void ReadPhases(InputForm& form) {
-  ReadPhase(form.txtEstimate(1));
+  ReadPhase(form.txtEstimate(kItemM));
   ReadPhase(form.txtPhaseLogRec);
   ReadPhase(form.txtPhaseRecDev);
   ReadPhase(form.txtPhaseFMort);
   ReadPhase(form.txtPhaseFMortDev);
-  ReadPhase(form.txtEstimate(10));
-  ReadPhase(form.txtEstimate(11));
+  ReadPhase(form.txtEstimate(kItemCpueQ));
+  ReadPhase(form.txtEstimate(kItemCpueExponent));
   ReadPhase(form.chkEstimateFishGamma, form.txtPhaseFishGamma);
   ReadPhase(form.chkEstimateFishBeta, form.txtPhaseFishBeta);
   ReadPhase(form.chkEstimateFishA50, form.txtPhaseFishA50);
   ReadNonparametricPhase(form, 0);
   ReadNonparametricPhase(form, 1);
-  ReadPhase(form.txtEstimate(4));
-  ReadPhase(form.txtEstimate(2));
-  ReadPhase(form.txtEstimate(3));
-  for (const int parameter : {0, 1, 2}) {
+  ReadPhase(form.txtEstimate(kItemFisherySample));
+  ReadPhase(form.txtEstimate(kItemSurveyQ));
+  ReadPhase(form.txtEstimate(kItemSurveyExponent));
+  for (const int parameter : {kLogGamma, kLogBeta, kLogA50}) {
     ReadPhase(form.chkSurvSelParEst(parameter), form.txtSurvSelParEst(parameter));
   }
   ReadPhase(form.chkSurvSelNonParEst, form.txtSurvSelNonParEst);
@@ -201,19 +203,19 @@ void ReadPhases(InputForm& form) {
 }  // namespace
 
 void ReadBiologyLines(InputForm& form, double version) {
-  ReadAtAge(form.ORVFlexGrid(6));
-  ReadAtAge(form.ORVFlexGrid(4));
+  ReadAtAge(form.ORVFlexGrid(kGridCatchWeight));
+  ReadAtAge(form.ORVFlexGrid(kGridStockWeight));
   if (version >= 1.4) {
-    ReadAtAge(form.ORVFlexGrid(14));
+    ReadAtAge(form.ORVFlexGrid(kGridSpawnWeight));
   } else {
-    CopyAtAge(form.ORVFlexGrid(4), form.ORVFlexGrid(14));
+    CopyAtAge(form.ORVFlexGrid(kGridStockWeight), form.ORVFlexGrid(kGridSpawnWeight));
   }
   ReadField(form.txtFractionZ);
-  ReadAtAge(form.ORVFlexGrid(7));
+  ReadAtAge(form.ORVFlexGrid(kGridMaturity));
   if (version >= 1.4) {
-    ReadColumn(form.ORVFlexGrid(13), 1, NAges);
+    ReadColumn(form.ORVFlexGrid(kGridMMultiplier), 1, NAges);
   } else {
-    for (int age = 1; age <= NAges; ++age) form.ORVFlexGrid(13).SetTextMatrix(age, 1, "1.0");
+    for (int age = 1; age <= NAges; ++age) form.ORVFlexGrid(kGridMMultiplier).SetTextMatrix(age, 1, "1.0");
   }
 }
 

@@ -4,21 +4,12 @@
 #include <vector>
 
 #include "core/globals.h"
-#include "inputedit/grids.h"
+#include "inputedit/labels.h"
 #include "inputfiles/datafile_read.h"
 
 namespace tarnvik {
 
 namespace {
-
-// Columns of the per-survey store, the same in both tables up to the ages.
-constexpr int kYear = 0;
-constexpr int kValue = 1;  // of SurvYearFit the index value, of SurvAgeFit the number of samples
-constexpr int kFit = 2;
-constexpr int kBeforeAges = 2;
-
-// The row in the store that is the survey's first year.
-int FirstRow(int survey) { return SurvFYear(survey) - NFYear + 1; }
 
 [[noreturn]] void RefuseTitles() {
   throw RefusedValue{"Unable to Retrieve Number of Years of Survey Data", false};
@@ -82,10 +73,10 @@ YearFlags ReadFitFlags(double version) {
 }
 
 void PutYears(SurveyTable<std::string>& table, int survey, std::string_view flags) {
-  int row = FirstRow(survey);
+  int row = StoreRow(survey);
   for (const char flag : flags) {
-    table(survey, kYear, row) = NumberText(NFYear + row - 1);
-    table(survey, kFit, row) = flag;
+    table(survey, kStoreYear, row) = NumberText(NFYear + row - 1);
+    table(survey, kStoreFit, row) = flag;
     ++row;
   }
 }
@@ -104,17 +95,18 @@ void ReadSurveyYears(const YearFlags& index_flags, const YearFlags& age_flags) {
 void ReadValues(SurveyTable<std::string>& table) {
   for (int survey = 1; survey <= NIndex; ++survey) {
     LineWords words(ReadDataLine());
-    const int first = FirstRow(survey);
-    for (int j = 0; j < SurvNYears(survey); ++j) table(survey, kValue, first + j) = words.Next();
+    const int first = StoreRow(survey);
+    for (int j = 0; j < SurvNYears(survey); ++j) table(survey, kStoreValue, first + j) = words.Next();
   }
 }
 
 void ReadAgeCompositions() {
   for (int survey = 1; survey <= NIndex; ++survey) {
-    const int first = FirstRow(survey);
+    const int first = StoreRow(survey);
     for (int j = 0; j < SurvNYears(survey); ++j) {
       LineWords words(ReadDataLine());
-      for (int age = 1; age <= NAges; ++age) SurvAgeFit(survey, kBeforeAges + age, first + j) = words.Next();
+      for (int age = 1; age <= NAges; ++age)
+        SurvAgeFit(survey, kStoreBeforeAges + age, first + j) = words.Next();
     }
   }
 }
@@ -122,7 +114,7 @@ void ReadAgeCompositions() {
 void ReadSelectivity(InputForm& form, double version) {
   int option = 0;
   if (version >= 1.4) {
-    ReadColumn(form.ORVFlexGrid(12), 1, NIndex);
+    ReadColumn(form.ORVFlexGrid(kGridSurveySelAges), 1, NIndex);
     option = IsOne(TokenFirst(ReadDataLine())) ? 0 : 1;
   }
   form.opSurvSelModel(option).SetValue(true);
@@ -135,11 +127,11 @@ void ReadSurveyLines(InputForm& form, double version) {
   ReadTitles();
   RelabelSurveys();
   ReadYearCounts();
-  ReadAgesInIndex(form.ORVFlexGrid(10), version);
+  ReadAgesInIndex(form.ORVFlexGrid(kGridIndexAges), version);
   const YearFlags index_flags = ReadFitFlags(version);
   const YearFlags age_flags = ReadFitFlags(version);
   ReadSurveyYears(index_flags, age_flags);
-  ReadRow(form.ORVFlexGrid(3), 1, 0, NIndex);
+  ReadRow(form.ORVFlexGrid(kGridSurveyZ), 1, 0, NIndex);
   ReadValues(SurvYearFit);
   ReadValues(SurvAgeFit);
   ReadAgeCompositions();

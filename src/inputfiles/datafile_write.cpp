@@ -94,13 +94,14 @@ void WriteDimensions(OutputFile& file, const InputForm& form) {
 
 void WriteFisherySelectivity(OutputFile& file, const InputForm& form) {
   file.PrintLine("# Starting years of fishery selectivity periods");
-  WriteColumn(file, form.ORVFlexGrid(8), 1, LastRow(form.ORVFlexGrid(8)), kOneBlank);
+  WriteColumn(file, form.ORVFlexGrid(kGridPeriods), 1, LastRow(form.ORVFlexGrid(kGridPeriods)), kOneBlank);
   file.PrintLine("# Number of ages (1..nselage_FISH) to estimate fishery selectivity by period");
-  WriteColumn(file, form.ORVFlexGrid(11), 1, LastRow(form.ORVFlexGrid(11)), kOneBlank);
+  WriteColumn(file, form.ORVFlexGrid(kGridFisherySelAges), 1, LastRow(form.ORVFlexGrid(kGridFisherySelAges)),
+              kOneBlank);
   file.PrintLine("# Choose fishery selectivity model (set use_parametric_sel_FISH)");
   file.PrintLine("# use_parametric_sel_FISH=1 implies parametric fishery selectivity");
   file.PrintLine("# use_parametric_sel_FISH=0 implies nonparametric fishery selectivity");
-  file.PrintLine(form.opFSelModel(0).Value() ? "1" : "0");
+  file.PrintLine(form.opFSelModel(kParametric).Value() ? "1" : "0");
   file.PrintLine("# Apply 1st, 2nd, or 3rd difference smoothers to fishery selectivity");
   file.PrintLine("# Set use_sel_smooth_FISH(1) = 1 to apply 1st difference");
   file.PrintLine("# Set use_sel_smooth_FISH(2) = 1 to apply 2nd difference");
@@ -117,11 +118,11 @@ void WriteCatch(OutputFile& file, const InputForm& form) {
   file.Print(form.cmbNXYear.Text());
   file.Print(", n=");
   file.PrintLine(NumberText(NYears));
-  WriteColumn(file, form.ORVFlexGrid(0), 1, LastRow(form.ORVFlexGrid(0)), kTwoBlanks);
+  WriteColumn(file, form.ORVFlexGrid(kGridCatch), 1, LastRow(form.ORVFlexGrid(kGridCatch)), kTwoBlanks);
 }
 
 void WriteCpue(OutputFile& file, const InputForm& form) {
-  const Grid& cpue = form.ORVFlexGrid(5);
+  const Grid& cpue = form.ORVFlexGrid(kGridCpue);
   file.Print("# Number years of fishery CPUE data ");
   PrintGridSpan(file, cpue);
   file.PrintLine(" (default=nobs_FISH)");
@@ -146,7 +147,7 @@ void WriteCpue(OutputFile& file, const InputForm& form) {
 
 void WriteFisheryAges(OutputFile& file, const InputForm& form) {
   constexpr int kFit = 1, kSamples = 2, kFirstAge = 3;
-  const Grid& ages = form.ORVFlexGrid(1);
+  const Grid& ages = form.ORVFlexGrid(kGridFisheryAge);
   file.Print("# Number years of fishery age data ");
   PrintGridSpan(file, ages);
   file.PrintLine(" (nobs_FISH)");
@@ -195,12 +196,12 @@ void WriteBiologyLines(OutputFile& file, InputForm& form) {
   WriteAtAge(file, form, "# Maturity at age ", 7, false);
   file.PrintLine("# Age-specific multiplier for natural mortality (mult_M)");
   file.PrintLine("# with convention that mult_M(nages) = 1 for the plus group");
-  WriteColumn(file, form.ORVFlexGrid(13), 1, NAges, kOneBlank);
+  WriteColumn(file, form.ORVFlexGrid(kGridMMultiplier), 1, NAges, kOneBlank);
 }
 
 void WriteDataFile() {
   FilesSaved = kFalse;
-  DatFilePath = frmInput->lblFile(1).Caption();
+  DatFilePath = frmInput->lblFile(kFileDat).Caption();
   try {
     InputForm& form = *frmInput;
     OutputFile file;

@@ -7,14 +7,6 @@ namespace tarnvik {
 
 namespace {
 
-// Columns of the per-survey store, the same in both tables up to the ages.
-constexpr int kValue = 1;  // of SurvYearFit the index value, of SurvAgeFit the number of samples
-constexpr int kFit = 2;
-constexpr int kBeforeAges = 2;
-
-// The row in the store that is the survey's first year.
-int FirstRow(int survey) { return SurvFYear(survey) - NFYear + 1; }
-
 // "<first>-<last>" of a survey.
 void PrintSurveySpan(OutputFile& file, int survey) {
   file.Print(NumberText(SurvFYear(survey)));
@@ -44,8 +36,8 @@ void WriteFitFlags(OutputFile& file, const SurveyTable<std::string>& table, std:
     file.Print("(");
     PrintSurveySpan(file, survey);
     file.PrintLine(")");
-    const int first = FirstRow(survey);
-    for (int j = 0; j < SurvNYears(survey); ++j) PrintFlag(file, IsYes(table(survey, kFit, first + j)));
+    const int first = StoreRow(survey);
+    for (int j = 0; j < SurvNYears(survey); ++j) PrintFlag(file, IsYes(table(survey, kStoreFit, first + j)));
     file.EndLine();
   }
 }
@@ -62,8 +54,9 @@ void WriteYears(OutputFile& file) {
 }
 
 void WriteValues(OutputFile& file, const SurveyTable<std::string>& table, int survey) {
-  const int first = FirstRow(survey);
-  for (int j = 0; j < SurvNYears(survey); ++j) PrintItem(file, table(survey, kValue, first + j), kTwoBlanks);
+  const int first = StoreRow(survey);
+  for (int j = 0; j < SurvNYears(survey); ++j)
+    PrintItem(file, table(survey, kStoreValue, first + j), kTwoBlanks);
   file.EndLine();
 }
 
@@ -90,10 +83,10 @@ void WriteAgeCompositions(OutputFile& file) {
     PrintWithTitle(file, "# ", survey, " SURVEY age composition data, ");
     PrintSurveySpan(file, survey);
     file.EndLine();
-    const int first = FirstRow(survey);
+    const int first = StoreRow(survey);
     for (int j = 0; j < SurvNYears(survey); ++j) {
       for (int age = 1; age <= NAges; ++age) {
-        PrintItem(file, SurvAgeFit(survey, kBeforeAges + age, first + j), kTwoBlanks);
+        PrintItem(file, SurvAgeFit(survey, kStoreBeforeAges + age, first + j), kTwoBlanks);
       }
       file.EndLine();
     }
@@ -104,15 +97,15 @@ void WriteAgeCompositions(OutputFile& file) {
 
 void WriteSurveyLines(OutputFile& file, InputForm& form) {
   file.PrintLine("# Number of ages (1..nselages_SURVEY) to estimate survey selectivity");
-  WriteColumn(file, form.ORVFlexGrid(12), 1, NIndex, kOneBlank);
+  WriteColumn(file, form.ORVFlexGrid(kGridSurveySelAges), 1, NIndex, kOneBlank);
   file.PrintLine("# Choose survey selectivity model (set use_parametric_sel_SURVEY)");
   file.PrintLine("# use_parametric_sel_SURVEY=1 implies parametric survey selectivity");
   file.PrintLine("# use_parametric_sel_SURVEY=0 implies nonparametric survey selectivity");
-  file.PrintLine(form.opSurvSelModel(0).Value() ? "1" : "0");
+  file.PrintLine(form.opSurvSelModel(kParametric).Value() ? "1" : "0");
   EndWithTitles(file, "# Number of years of SURVEY data");
   for (int survey = 1; survey <= NIndex; ++survey) PrintItem(file, NumberText(SurvNYears(survey)), kOneBlank);
   file.EndLine();
-  WriteAgesInIndex(file, form.ORVFlexGrid(10));
+  WriteAgesInIndex(file, form.ORVFlexGrid(kGridIndexAges));
   file.PrintLine("# Years to fit SURVEY index values (1=fit annual index, 0=do not fit index)");
   WriteFitFlags(file, SurvYearFit, " SURVEY index values ");
   file.PrintLine("# Years to fit SURVEY age compositions (1=fit agecomp, 0=do not fit agecomp)");
@@ -120,7 +113,7 @@ void WriteSurveyLines(OutputFile& file, InputForm& form) {
   WriteYears(file);
   EndWithTitles(file, "# Fraction of Z Prior to SURVEY");
   for (int survey = 1; survey <= NIndex; ++survey) {
-    PrintItem(file, form.ORVFlexGrid(3).TextMatrix(1, survey - 1), kTwoBlanks);
+    PrintItem(file, form.ORVFlexGrid(kGridSurveyZ).TextMatrix(1, survey - 1), kTwoBlanks);
   }
   file.EndLine();
   WriteIndexValues(file);

@@ -6,10 +6,10 @@
 #include "core/globals.h"
 #include "core/text.h"
 #include "core/utils.h"
-#include "inputedit/dimensions.h"
 #include "inputedit/frminput.h"
 #include "inputedit/frmpin.h"
 #include "inputedit/grids.h"
+#include "inputedit/labels.h"
 #include "inputedit/options.h"
 #include "inputfiles/casefiles.h"
 #include "platform/paths.h"
@@ -41,10 +41,10 @@ void ClearSurvey(int survey) {
   SurvXYear(survey) = NXYear;
   for (int row = 1; row <= NYears; ++row) {
     const std::string year = NumberText(NFYear + row - 1);
-    SurvYearFit(survey, 0, row) = SurvAgeFit(survey, 0, row) = year;
-    for (int col = 1; col <= SurvAgeFit.LastColumn(); ++col) SurvAgeFit(survey, col, row).clear();
-    SurvYearFit(survey, 1, row).clear();
-    SurvYearFit(survey, 2, row) = SurvAgeFit(survey, 2, row) = "n";
+    SurvYearFit(survey, kStoreYear, row) = SurvAgeFit(survey, kStoreYear, row) = year;
+    for (int col = kStoreValue; col <= SurvAgeFit.LastColumn(); ++col) SurvAgeFit(survey, col, row).clear();
+    SurvYearFit(survey, kStoreValue, row).clear();
+    SurvYearFit(survey, kStoreFit, row) = SurvAgeFit(survey, kStoreFit, row) = "n";
   }
   SurvParametric(survey) = false;
 }
@@ -94,19 +94,15 @@ void RestoreCombos(int rec_year, int ref_year) {
 }
 
 void BuildParameterGrids() {
-  UpdateRecDevGrid();
-  UpdateFMortDevGrid();
   BuildAllPinGrids();
-  ApplyFishSelModel();
-  ApplySurvSelModel();
+  ApplySelectivityModels();
 }
 
 void RebuildGrids() {
   const FormLoading loading;
   BuildAllInputGrids();
-  constexpr int kLikelihood = 2, kAges = 5;
-  LabelSurveys(kAges);
-  LabelSurveys(kLikelihood);
+  LabelSurveys(kLabelsIndexAges);
+  LabelSurveys(kLabelsSurveyEmphasis);
   FillCpueAges();
   BuildParameterGrids();
 }
@@ -115,32 +111,32 @@ void RebuildGrids() {
 
 void ClearDataForm() {
   InputForm& form = *frmInput;
-  ShowPath(form.lblFile(1), kNoneSelected);
+  ShowPath(form.lblFile(kFileDat), kNoneSelected);
   form.txtModel.SetText(kNoneSelected);
-  form.opBoot(0).SetValue(true);
-  ClearGrids({1, 5});
+  form.opBoot(kSingleRun).SetValue(true);
+  ClearGrids({kGridFisheryAge, kGridCpue});
   form.txtZCpue.SetText("0.5");
   MarkAll(form.lstCPUEages, true);
   form.lstCPUEages.SetListIndex(-1);
   ClearSurveys();
-  ClearGrids({0});
-  ClearTexts(form.txtVarCoeff, {1, 2, 3});
-  ClearTexts(form.txtLikelihood, {1, 3, 5});
-  Uncheck({1, 5, 6});
-  ClearTexts(form.txtEstimate, {1, 12, 13, 14, 15});
-  form.txtEstimate(5).SetText("0.0");
-  ClearGrids({8, 11});
-  Uncheck({10, 11, 4});
-  ClearTexts(form.txtEstimate, {10, 11});
-  ClearTexts(form.txtLikelihood, {0, 2, 4});
-  ClearGrids({10, 3});
+  ClearGrids({kGridCatch});
+  ClearTexts(form.txtVarCoeff, {kCvRecruitment, kCvCatch, kCvF});
+  ClearTexts(form.txtLikelihood, {kEmphasisRecruitment, kEmphasisCatch, kEmphasisF});
+  Uncheck({kItemM, kItemInitialF, kItemCriteria});
+  ClearTexts(form.txtEstimate, {kItemM, kItemTargetF, kItemLimitF, kItemTargetSsb, kItemLimitSsb});
+  form.txtEstimate(kItemInitialF).SetText("0.0");
+  ClearGrids({kGridPeriods, kGridFisherySelAges});
+  Uncheck({kItemCpueQ, kItemCpueExponent, kItemFisherySample});
+  ClearTexts(form.txtEstimate, {kItemCpueQ, kItemCpueExponent});
+  ClearTexts(form.txtLikelihood, {kEmphasisCpue, kEmphasisFisheryAge, kEmphasisSelectivity});
+  ClearGrids({kGridIndexAges, kGridSurveyZ});
   MarkAll(form.listSurvFit, false);
-  Uncheck({2, 3});
-  ClearTexts(form.txtEstimate, {3});
+  Uncheck({kItemSurveyQ, kItemSurveyExponent});
+  ClearTexts(form.txtEstimate, {kItemSurveyExponent});
   MarkAll(form.listSurvSample, false);
-  ClearGrids({9, 6, 4, 7});
+  ClearGrids({kGridSurveyEmphasis, kGridCatchWeight, kGridStockWeight, kGridMaturity});
   form.txtFractionZ.SetText("");
-  ClearGrids({14, 13});
+  ClearGrids({kGridSpawnWeight, kGridMMultiplier});
   DisableDataCommands();
   DatFileOpen = kFalse;
   for (std::string* path : {&DatFilePath, &ReportPath, &StdPath, &ParPath}) path->clear();
@@ -157,12 +153,12 @@ void NewDataFile() {
   UnloadResultForms();
   frmMain->mnuModelRun.SetEnabled(false);
   DisableResultMenus();
-  for (const int grid : {0, 1}) {
+  for (const int grid : {kToolCpue, kToolFisheryAge}) {
     frmInput->cmdExpandGrd(grid).SetEnabled(false);
     frmInput->cmdCondenseGrd(grid).SetEnabled(true);
   }
   DatFilePath = NewFilePath("dat");
-  ShowPath(frmInput->lblFile(1), DatFilePath);
+  ShowPath(frmInput->lblFile(kFileDat), DatFilePath);
   frmInput->txtModel.SetText(kNoneSelected);
   frmMain->mnuWindow.SetEnabled(true);
   RestoreCombos(rec_year, ref_year);
@@ -173,8 +169,8 @@ void NewDataFile() {
 void NewParameterFile() {
   // The writers take their paths from the labels, so the next one puts DatFilePath right again.
   DatFilePath = NewFilePath("pin");
-  frmInput->lblFile(0).SetCaption(PinFilePath);
-  frmInput->lblFile(0).SetForeColor(kBlue);
+  frmInput->lblFile(kFilePin).SetCaption(PinFilePath);
+  frmInput->lblFile(kFilePin).SetForeColor(kBlue);
   ActivateForm(frmPin);
   frmPin->txtParmFile.ForEach([](TextBox& field) { field.SetText(""); });
   frmPin->ORVFlexGrid1.ForEach([](Grid& grid) { grid.Clear(); });
@@ -193,7 +189,7 @@ void NewCase() {
   NewDataFile();
   const std::string root = DatFilePath.substr(0, DatFilePath.size() - 4);
   PinFilePath = root + ".pin";
-  ShowPath(frmInput->lblFile(0), PinFilePath);
+  ShowPath(frmInput->lblFile(kFilePin), PinFilePath);
   CtlFilePath = root + ".ctl";
   ShowPath(frmInput->lblCTL, CtlFilePath);
   frmMain->mnuFileCreatePin.SetEnabled(true);

@@ -20,7 +20,7 @@ void SaveParameterFileAs() {
       {.save = true, .title = "Save Input Parameter File", .filter = kFilter, .default_extension = "pin"});
   if (!name) return;
   PinFilePath = *name;
-  ShowPath(frmInput->lblFile(0), PinFilePath);
+  ShowPath(frmInput->lblFile(kFilePin), PinFilePath);
   WriteParameterFile();
 }
 

@@ -6,11 +6,11 @@
 #include "core/globals.h"
 #include "core/text.h"
 #include "core/utils.h"
-#include "inputedit/dimensions.h"
 #include "inputedit/frminput.h"
 #include "inputedit/frmpin.h"
 #include "inputedit/grids.h"
 #include "inputedit/options.h"
+#include "inputedit/year_grids.h"
 #include "inputfiles/datafile_read.h"
 #include "inputfiles/file_version.h"
 #include "inputfiles/paramfile.h"
@@ -53,13 +53,13 @@ void ReadRecruitmentDeviations() {
   const int count = NXYear - RecYr + 1;
   const std::string_view line = ReadDataLine();
   UpdateRecDevGrid();
-  FillDeviations(frmPin->ORVFlexGrid1(0), count, line);
+  FillDeviations(frmPin->ORVFlexGrid1(kPinRecDevs), count, line);
 }
 
 void ReadFishingDeviations() {
   const std::string_view line = ReadDataLine();
   UpdateFMortDevGrid();
-  FillDeviations(frmPin->ORVFlexGrid1(1), NYears, line);
+  FillDeviations(frmPin->ORVFlexGrid1(kPinFDevs), NYears, line);
 }
 
 // log gamma, log beta and log a50, one column per period or survey.
@@ -85,10 +85,10 @@ void ReadFishery(double version) {
   constexpr int kParametric = 32, kByPeriod = 33, kAnnual = 37;
   for (const int grid : {kParametric, kByPeriod, kAnnual}) BuildGrid(grid);
   ApplyFishSelModel();
-  ReadSelectivityParameters(frmPin->ORVFlexGrid1(2), NSelPer);
+  ReadSelectivityParameters(frmPin->ORVFlexGrid1(kPinFisheryCurve), NSelPer);
   if (version >= 1.3) {
     ReadSelectivities(
-        frmPin->ORVFlexGrid1(4), NSelPer,
+        frmPin->ORVFlexGrid1(kPinFisheryByPeriod), NSelPer,
         "Warning: Parameter Input File Fishery Selectivity Periods Do Not Match General Parameters");
   }
 }
@@ -103,14 +103,14 @@ bool FindSurveyIndex() {
 
 void ReadSurveys(double version) {
   constexpr int kParametric = 35, kNonparametric = 36;
-  Grid& index = frmPin->ORVFlexGrid1(3);
+  Grid& index = frmPin->ORVFlexGrid1(kPinSurveyIndex);
   FillRow(index, 1, NIndex, File1.ReadLine());
   FillRow(index, 2, NIndex, ReadDataLine());
   for (const int grid : {kParametric, kNonparametric}) BuildGrid(grid);
   ApplySurvSelModel();
-  ReadSelectivityParameters(frmPin->ORVFlexGrid1(5), NIndex);
+  ReadSelectivityParameters(frmPin->ORVFlexGrid1(kPinSurveyCurve), NIndex);
   if (version >= 1.4) {
-    ReadSelectivities(frmPin->ORVFlexGrid1(6), NIndex,
+    ReadSelectivities(frmPin->ORVFlexGrid1(kPinSurveyByAge), NIndex,
                       "Warning: Parameter Input File Number of Surveys Do Not Match General Parameters");
   }
 }
@@ -136,7 +136,7 @@ bool ReadParameters() {
     return false;
   }
   ReadSurveys(version);
-  if (version >= 1.4) ReadSelectivities(frmPin->ORVFlexGrid1(7), NYears, nullptr);
+  if (version >= 1.4) ReadSelectivities(frmPin->ORVFlexGrid1(kPinFisheryAnnual), NYears, nullptr);
   return true;
 }
 
@@ -172,7 +172,7 @@ void ReadParameterFile() {
     if (!read) return;
     PinFileOpen = kTrue;
     OfferCommands();
-    ShowPath(frmInput->lblFile(0), PinFilePath);
+    ShowPath(frmInput->lblFile(kFilePin), PinFilePath);
     frmInput->cmdBrowse1.SetEnabled(true);
     frmInput->cmdBrowse2.SetEnabled(true);
     ModelRunOK = kFalse;

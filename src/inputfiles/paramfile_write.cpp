@@ -35,9 +35,9 @@ constexpr const char* kNeutralParameter[] = {nullptr, "-2.0 ", "0.0 ", "1.0 "};
 constexpr int kLogGamma = 1;
 
 void WriteFishParameter(OutputFile& file, int row) {
-  const bool flat_topped = frmInput->opFishSelParametric(0).Value();
-  if (frmInput->opFSelModel(0).Value() && !(row == kLogGamma && flat_topped)) {
-    const Grid& grid = frmPin->ORVFlexGrid1(2);
+  const bool flat_topped = frmInput->opFishSelParametric(kFlatTopped).Value();
+  if (frmInput->opFSelModel(kParametric).Value() && !(row == kLogGamma && flat_topped)) {
+    const Grid& grid = frmPin->ORVFlexGrid1(kPinFisheryCurve);
     PrintCells(file, grid, row, grid.Cols() - 1);
   } else {
     PrintNeutral(file, kNeutralParameter[row], NSelPer);
@@ -45,9 +45,9 @@ void WriteFishParameter(OutputFile& file, int row) {
 }
 
 void WriteSurveyParameter(OutputFile& file, int row) {
-  const bool flat_topped = frmInput->opSurvSelParametric(0).Value();
-  if (frmInput->opSurvSelModel(0).Value() && !(row == kLogGamma && flat_topped)) {
-    const Grid& grid = frmPin->ORVFlexGrid1(5);
+  const bool flat_topped = frmInput->opSurvSelParametric(kFlatTopped).Value();
+  if (frmInput->opSurvSelModel(kParametric).Value() && !(row == kLogGamma && flat_topped)) {
+    const Grid& grid = frmPin->ORVFlexGrid1(kPinSurveyCurve);
     PrintCells(file, grid, row, grid.Cols() - 1);
   } else {
     PrintNeutral(file, kNeutralParameter[row], NIndex);
@@ -55,7 +55,7 @@ void WriteSurveyParameter(OutputFile& file, int row) {
 }
 
 void WriteSurveyIndex(OutputFile& file, int row) {
-  const Grid& grid = frmPin->ORVFlexGrid1(3);
+  const Grid& grid = frmPin->ORVFlexGrid1(kPinSurveyIndex);
   PrintCells(file, grid, row, grid.Cols() - 1);
 }
 
@@ -73,27 +73,32 @@ void WriteSelectivities(OutputFile& file, bool in_use, const Grid& values, const
 }
 
 void WriteFishPeriods(OutputFile& file, int) {
-  const bool in_use = frmInput->opFSelModel(1).Value() && frmInput->opFishSelNonPar(0).Value();
-  WriteSelectivities(file, in_use, frmPin->ORVFlexGrid1(4), frmInput->ORVFlexGrid(11), NSelPer);
+  const bool in_use =
+      frmInput->opFSelModel(kNonparametric).Value() && frmInput->opFishSelNonPar(kByPeriod).Value();
+  WriteSelectivities(file, in_use, frmPin->ORVFlexGrid1(kPinFisheryByPeriod),
+                     frmInput->ORVFlexGrid(kGridFisherySelAges), NSelPer);
 }
 
 void WriteSurveySelectivities(OutputFile& file, int) {
-  const bool in_use = frmInput->opSurvSelModel(1).Value();
-  WriteSelectivities(file, in_use, frmPin->ORVFlexGrid1(6), frmInput->ORVFlexGrid(12), NIndex);
+  const bool in_use = frmInput->opSurvSelModel(kNonparametric).Value();
+  WriteSelectivities(file, in_use, frmPin->ORVFlexGrid1(kPinSurveyByAge),
+                     frmInput->ORVFlexGrid(kGridSurveySelAges), NIndex);
 }
 
 // All years have one count of ages: the box's, when it stands in place of the counts by period.
 int AnnualAges() {
   const TextBox& box = frmInput->txtFishSelAge;
-  return ValInt(box.Enabled() && box.Visible() ? box.Text() : frmInput->ORVFlexGrid(11).TextMatrix(1, 1));
+  return ValInt(box.Enabled() && box.Visible() ? box.Text()
+                                               : frmInput->ORVFlexGrid(kGridFisherySelAges).TextMatrix(1, 1));
 }
 
 void WriteFishYears(OutputFile& file, int) {
-  const bool in_use = frmInput->opFSelModel(1).Value() && frmInput->opFishSelNonPar(1).Value();
+  const bool in_use =
+      frmInput->opFSelModel(kNonparametric).Value() && frmInput->opFishSelNonPar(kAnnual).Value();
   const int ages = AnnualAges();
   for (int row = 1; row <= NYears; ++row) {
     if (in_use) {
-      PrintCells(file, frmPin->ORVFlexGrid1(7), row, ages);
+      PrintCells(file, frmPin->ORVFlexGrid1(kPinFisheryAnnual), row, ages);
     } else {
       PrintNeutral(file, "1 ", ages);
     }
@@ -150,7 +155,7 @@ void WriteSections(OutputFile& file) {
 
 void WriteParameterFile() {
   FilesSaved = kFalse;
-  PinFilePath = frmInput->lblFile(0).Caption();
+  PinFilePath = frmInput->lblFile(kFilePin).Caption();
   try {
     OutputFile file;
     file.Open(PinFilePath);

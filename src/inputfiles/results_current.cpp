@@ -20,7 +20,7 @@ bool ControlFileNamesLabels() {
   File1.Open(CtlFilePath);
   ReadDataLine();  // the description
   bool same = true;
-  for (const int file : {0, 1}) {
+  for (const int file : {kFilePin, kFileDat}) {
     same = same && Trim(ReadDataLine()) == frmInput->lblFile(file).Caption();
   }
   File1.Close();
@@ -48,9 +48,9 @@ bool ResultsAreCurrent() {
     if (!ControlFileNamesLabels()) return false;
     CtlFileOpen = kTrue;
   }
-  DatFilePath = frmInput->lblFile(1).Caption();
+  DatFilePath = frmInput->lblFile(kFileDat).Caption();
   if (!NoLaterThanControlFile(DatFilePath)) return false;
-  PinFilePath = frmInput->lblFile(0).Caption();
+  PinFilePath = frmInput->lblFile(kFilePin).Caption();
   if (!NoLaterThanControlFile(PinFilePath)) return false;
   return TakeResult(ReportPath, "rep") && TakeResult(StdPath, "std") && TakeResult(ParPath, "par") &&
          ReportFollowsParameters();

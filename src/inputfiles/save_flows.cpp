@@ -92,8 +92,8 @@ void SaveAllWithRootName() {
   if (!name) return;
   const std::string root = RootOf(*name);
   if (!MayReplace(root)) return;
-  if (!WriteUnder(root + ".dat", DatFilePath, frmInput->lblFile(1), WriteDataFile)) return;
-  if (!WriteUnder(root + ".pin", PinFilePath, frmInput->lblFile(0), WriteParameterFile)) return;
+  if (!WriteUnder(root + ".dat", DatFilePath, frmInput->lblFile(kFileDat), WriteDataFile)) return;
+  if (!WriteUnder(root + ".pin", PinFilePath, frmInput->lblFile(kFilePin), WriteParameterFile)) return;
   WriteUnder(root + ".ctl", CtlFilePath, frmInput->lblCTL, WriteControlFile);
 }
 

@@ -50,34 +50,38 @@ struct Parameter {
 };
 
 const Parameter kParameters[] = {
-    {"# M:", "Unable to Retrieve M from Output Parameter File", One, PutPoint<0>},
-    {"MEAN_LOG_REC", "Unable to Retrieve Mean Log Recruitment from Output Parameter File", One, PutPoint<1>},
+    {"# M:", "Unable to Retrieve M from Output Parameter File", One, PutPoint<kPointM>},
+    {"MEAN_LOG_REC", "Unable to Retrieve Mean Log Recruitment from Output Parameter File", One,
+     PutPoint<kPointLogRec>},
     {"REC_DEV", "Unable to Retrieve Recruitment Deviations from Output Parameter File",
-     [] { return DataRows(0); }, PutRow<0>},
-    {"LOG_AVG_FMORT", "Unable to Retrieve Log of Average F from Output Parameter File", One, PutPoint<2>},
+     [] { return DataRows(kTableRecDevs); }, PutRow<kTableRecDevs>},
+    {"LOG_AVG_FMORT", "Unable to Retrieve Log of Average F from Output Parameter File", One,
+     PutPoint<kPointLogF>},
     {"FMORT_DEV", "Unable to Retrieve Fishing Mortality Deviations from Output Parameter File",
-     [] { return DataRows(1); }, PutRow<1>},
-    {"# QCPUE", "Unable to Retrieve CPUE q from Output Parameter File", One, PutPoint<3>},
-    {"EXP_CPUE", "Unable to Retrieve CPUE Exponent from Output Parameter File", One, PutPoint<4>},
+     [] { return DataRows(kTableFDevs); }, PutRow<kTableFDevs>},
+    {"# QCPUE", "Unable to Retrieve CPUE q from Output Parameter File", One, PutPoint<kPointCpueQ>},
+    {"EXP_CPUE", "Unable to Retrieve CPUE Exponent from Output Parameter File", One,
+     PutPoint<kPointCpueExponent>},
     {"LOG_GAMMA_FISH", "Unable to Retrieve the Fishery Selectivity Log Gamma from Output Parameter File",
-     Periods, PutPairValue<2, 1>},
+     Periods, PutPairValue<kTableFisheryParameters, 1>},
     {"LOG_BETA_FISH", "Unable to Retrieve Fishery Selectivity Log Beta from Output Parameter File", Periods,
-     PutPairValue<2, 2>},
+     PutPairValue<kTableFisheryParameters, 2>},
     {"LOG_A50_FISH", "Unable to Retrieve Fishery Selectivity Log a50 from Output Parameter File", Periods,
-     PutPairValue<2, 3>},
+     PutPairValue<kTableFisheryParameters, 3>},
 };
 
 // Behind the selectivities at age, which have a line for each period.
 const Parameter kSurveyParameters[] = {
-    {"QSURVEY", "Unable to Retrieve Survey q from Output Parameter File", Surveys, PutPairValue<3, 1>},
+    {"QSURVEY", "Unable to Retrieve Survey q from Output Parameter File", Surveys,
+     PutPairValue<kTableSurveyParameters, 1>},
     {"EXP_SURVEY", "Unable to Retrieve Survey Exponent from Output Parameter File", Surveys,
-     PutPairValue<3, 2>},
+     PutPairValue<kTableSurveyParameters, 2>},
     {"LOG_GAMMA_SURVEY", "Unable to Retrieve Survey Log Gamma from Output Parameter File", Surveys,
-     PutPairValue<3, 3>},
+     PutPairValue<kTableSurveyParameters, 3>},
     {"LOG_BETA_SURVEY", "Unable to Retrieve Survey Log Beta from Output Parameter File", Surveys,
-     PutPairValue<3, 4>},
+     PutPairValue<kTableSurveyParameters, 4>},
     {"LOG_A50_SURVEY", "Unable to Retrieve Survey Log a50 from Output Parameter File", Surveys,
-     PutPairValue<3, 5>},
+     PutPairValue<kTableSurveyParameters, 5>},
 };
 
 // Whether the key was found; says so if not. The values stand in the next line.
@@ -108,18 +112,18 @@ void ScanFisherySelectivityAtAge() {
     Text value = found ? TokenFirst(Line()) : kNotAvailable;
     // A period may have fewer parameters than there are ages.
     for (int age = 1; age <= NAges && !value.empty(); ++age) {
-      ParameterTable(2).SetTextMatrix(age + 3, 2 * period - 1, value);
+      ParameterTable(kTableFisheryParameters).SetTextMatrix(age + 3, 2 * period - 1, value);
       if (found) value = TokenNext(Line());
     }
   }
 }
 
 void MarkDeviationsMissing() {
-  Grid& numbers = ResultTable(0);
+  Grid& numbers = ResultTable(kTableNumbers);
   for (int col = 1; col < numbers.Cols(); ++col)
     numbers.SetTextMatrix(numbers.Rows() - 1, col, kNotAvailable);
-  MarkNotAvailable(ResultTable(5), 2, 2);
-  for (const int table : {6, 8, 9}) {
+  MarkNotAvailable(ResultTable(kTableBiomass), 2, 2);
+  for (const int table : {kTableRecruitment, kTableSurplus, kTableAverageF}) {
     Grid& grid = ResultTable(table);
     for (int row = 1; row < grid.Rows(); ++row) grid.SetTextMatrix(row, 2, kNotAvailable);
   }
@@ -151,7 +155,8 @@ void DisableParameterBands() {
 
 void PrepareTables() {
   frmSTD->lblStd.ForEach([](Label& label) { label.SetCaption(kNotAvailable); });
-  for (const int table : {0, 1, 2, 3}) MarkNotAvailable(PrepareParameterTable(table), 2, 2);
+  for (const int table : {kTableRecDevs, kTableFDevs, kTableFisheryParameters, kTableSurveyParameters})
+    MarkNotAvailable(PrepareParameterTable(table), 2, 2);
 }
 
 void ScanParameters(const std::string& path) {

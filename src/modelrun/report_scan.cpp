@@ -28,11 +28,11 @@ void ReadRatio(int label) { frmOutputData->lblRatio(label).SetCaption(TokenFirst
 // A total by year behind the line of years, into its column of the table of biomass totals.
 void ReadBiomassTotal(int col) {
   SkipLines(1);
-  ReadDown(ResultTable(5), 0, col, YearRows());
+  ReadDown(ResultTable(kTableBiomass), 0, col, YearRows());
 }
 
 void ReadInputSampleSizes() {
-  Grid& grid = PrepareResultTable(16);
+  Grid& grid = PrepareResultTable(kTableFisherySample);
   ReadDown(grid, 0, 0, RowsTo(FishAgeNYears));
   FishAgeYears.ReDim(FishAgeNYears);
   for (int i = 1; i <= FishAgeNYears; ++i) FishAgeYears(i) = ValInt(grid.TextMatrix(i, 0));
@@ -40,7 +40,7 @@ void ReadInputSampleSizes() {
 }
 
 void ReadRecruitment() {
-  Grid& grid = PrepareResultTable(6);
+  Grid& grid = PrepareResultTable(kTableRecruitment);
   ReadDown(grid, 0, 0, RecruitRows());
   ReadDown(grid, 0, 1, RecruitRows());
 }
@@ -78,81 +78,81 @@ struct Section {
 
 const Section kSections[] = {
     {"FISH AT AGE", nullptr, "Estimated Numbers of Fish at Age from Report File",
-     [] { ReadBlock(PrepareResultTable(0), 0, 1, YearRows()); }},
+     [] { ReadBlock(PrepareResultTable(kTableNumbers), 0, 1, YearRows()); }},
     {"FISHING MORTALITY", nullptr, "Estimated Fishing Mortality from Report File",
-     [] { ReadBlock(PrepareResultTable(1), 0, 1, YearRows()); }},
+     [] { ReadBlock(PrepareResultTable(kTableAgeF), 0, 1, YearRows()); }},
     {nullptr, nullptr, nullptr, ScanCpue},
     {nullptr, nullptr, nullptr, ScanSurveyIndices},
     {"COMPOSITION INPUT SAMPLE SIZE", nullptr, "Fishery Age Composition Input Sample Size from Report File",
      ReadInputSampleSizes},
     {"COMPOSITION ESTIMATED EFFECTIVE SAMPLE SIZE", nullptr,
      "Fishery Age Composition Estimated Effective Sample Size from Report File",
-     [] { ReadDown(ResultTable(16), 0, 2, RowsTo(FishAgeNYears)); }},
+     [] { ReadDown(ResultTable(kTableFisherySample), 0, 2, RowsTo(FishAgeNYears)); }},
     {"OBSERVED FISHERY PROPORTION", nullptr, "Observed Fishery Proportion at Age from Report File",
-     [] { ReadBlock(PrepareResultTable(3), 0, 2, FisheryAgeRows()); }},
+     [] { ReadBlock(PrepareResultTable(kTableFisheryAge), 0, 2, FisheryAgeRows()); }},
     {"PREDICTED FISHERY PROPORTION", nullptr, "Predicted Fishery Proportion at Age from Report File",
-     [] { ReadBlock(ResultTable(3), NYears, 2, YearRows()); }},
+     [] { ReadBlock(ResultTable(kTableFisheryAge), NYears, 2, YearRows()); }},
     {"FISHERY PROPORTION RESIDUALS", nullptr, "Fishery Proportion Residuals at Age from Report File",
-     [] { ReadBlock(ResultTable(3), 2 * NYears, 2, FisheryAgeRows()); }},
+     [] { ReadBlock(ResultTable(kTableFisheryAge), 2 * NYears, 2, FisheryAgeRows()); }},
     {"STANDARDIZED FISHERY PROPORTION RESIDUALS", nullptr,
      "Standardized Fishery Proportion Residuals at Age from Report File",
-     [] { ReadBlock(ResultTable(3), 3 * NYears, 2, FisheryAgeRows()); }},
+     [] { ReadBlock(ResultTable(kTableFisheryAge), 3 * NYears, 2, FisheryAgeRows()); }},
     {nullptr, nullptr, nullptr, ScanSurveyAges},
     {"POPULATION BIOMASS (MT)", nullptr, "Population Biomass from Report File",
      [] {
-       PrepareResultTable(5);
+       PrepareResultTable(kTableBiomass);
        ReadBiomassTotal(1);
      }},
     {"DEPLETION RATIO IN", "FOR POPULATION BIOMASS", "Population Biomass in the Last Year from Report File",
-     [] { ReadRatio(0); }},
+     [] { ReadRatio(kRatioPopulation); }},
     {"RELATIVE TO", "POPULATION BIOMASS",
      "Population Biomass in the Last Year Relative to the Reference Year from Report File",
-     [] { ReadRatio(1); }},
+     [] { ReadRatio(kRatioPopulationRef); }},
     {"SPAWNING BIOMASS (MT)", nullptr, "Spawning Biomass from Report File", [] { ReadBiomassTotal(3); }},
     {"DEPLETION RATIO IN", "FOR SPAWNING BIOMASS", "Spawning Biomass in the Last Year from Report File",
-     [] { ReadRatio(2); }},
+     [] { ReadRatio(kRatioSpawningRef); }},
     {"RELATIVE TO", "SPAWNING BIOMASS",
      "Spawning Biomass in the Last Year Relative to the Reference Year from Report File",
-     [] { ReadRatio(3); }},
+     [] { ReadRatio(kRatioSpawning); }},
     {"EXPLOITABLE BIOMASS (MT)", nullptr, "Exploitable Biomass from Report File",
      [] { ReadBiomassTotal(5); }},
     {"POPULATION NUMBERS AT AGE", "TERMINAL YEAR PLUS ONE",
      "Population Numbers at Age at the Start of the Terminal Year Plus One from Report File",
      [] {
        SkipLines(1);
-       ReadAcross(ResultTable(0), NYears + 1, 1, NAges);
+       ReadAcross(ResultTable(kTableNumbers), NYears + 1, 1, NAges);
      }},
-    {"MEAN RECRUITMENT", nullptr, "Mean Recruitment from Report File", [] { ReadRatio(11); }},
+    {"MEAN RECRUITMENT", nullptr, "Mean Recruitment from Report File", [] { ReadRatio(kRatioMeanRec); }},
     {"RECRUITMENT (THOUSANDS OF AGE-1", nullptr, "Recruitment by Year from Report File", ReadRecruitment},
     {"LOG-SCALE RESIDUALS FOR RECRUITMENT", nullptr,
      "Standardized Log-Scale Residuals for Recruitment from Report File",
-     [] { ReadDown(ResultTable(6), 0, 3, RecruitRows()); }},
+     [] { ReadDown(ResultTable(kTableRecruitment), 0, 3, RecruitRows()); }},
     {"OBSERVED CATCH BIOMASS", nullptr, "Observed Catch Biomass from Report File",
      [] {
        SkipLines(1);
-       ReadDown(PrepareResultTable(7), 0, 1, YearRows());
+       ReadDown(PrepareResultTable(kTableCatch), 0, 1, YearRows());
      }},
     {"PREDICTED CATCH BIOMASS", nullptr, "Predicted Catch Biomass from Report File",
-     [] { ReadDown(ResultTable(7), 0, 2, YearRows()); }},
+     [] { ReadDown(ResultTable(kTableCatch), 0, 2, YearRows()); }},
     {"RESIDUALS FOR CATCH BIOMASS", nullptr, "Residuals for Catch Biomass from Report File",
-     [] { ReadDown(ResultTable(7), 0, 3, YearRows()); }},
+     [] { ReadDown(ResultTable(kTableCatch), 0, 3, YearRows()); }},
     {"LOG-SCALE RESIDUALS FOR CATCH BIOMASS", nullptr,
      "Standardized Log-Scale Residuals for Catch Biomass from Report File",
-     [] { ReadDown(ResultTable(7), 0, 4, YearRows()); }},
+     [] { ReadDown(ResultTable(kTableCatch), 0, 4, YearRows()); }},
     {"ANNUAL SURPLUS PRODUCTION", nullptr, "Annual Surplus Production from Report File",
      [] {
        SkipLines(1);
-       ReadDown(PrepareResultTable(8), 0, 1, RowsTo(NYears - 1));
+       ReadDown(PrepareResultTable(kTableSurplus), 0, 1, RowsTo(NYears - 1));
      }},
     {"ANNUAL FISHING MORTALITY", nullptr,
      "Estimated Average Annual Fishing Mortality by Year from Report File",
      [] {
        SkipLines(1);
-       ReadDown(PrepareResultTable(9), 0, 1, YearRows());
+       ReadDown(PrepareResultTable(kTableAverageF), 0, 1, YearRows());
      }},
     {"LOG-SCALE RESIDUALS FOR FISHING MORTALITY", nullptr,
      "Standardized Log-Scale Residuals for Fishing Mortality from Report File",
-     [] { ReadDown(ResultTable(9), 0, 3, YearRows()); }},
+     [] { ReadDown(ResultTable(kTableAverageF), 0, 3, YearRows()); }},
     {nullptr, nullptr, nullptr,
      [] {
        ScanRatioOfF(std::to_string(NFYear), 4,
@@ -169,31 +169,32 @@ const Section kSections[] = {
     {"SELECTIVITY BY AGE FOR SURVEY", nullptr, "Survey Selectivity by Age from Report File",
      ScanSurveySelectivity},
     {"OBJECTIVE FUNCTION", nullptr, "Objective Function Value from Report File",
-     [] { frmOutputData->lblSumm(10).SetCaption(Word(Line(), 4)); }},
+     [] { frmOutputData->lblSumm(kObjectiveFunction).SetCaption(Word(Line(), 4)); }},
     {"LIKELIHOOD COMPONENTS", nullptr, "Likelihood Components from Report File", ScanLikelihood},
     {"ROOT MEAN SQUARE", nullptr, "Root Mean Square Errors from Report File", ScanErrors},
     {"FISHERY YEARS:", nullptr, "Root Mean Square Errors from Report File", ScanFisheryAgeErrors},
     {"SURVEY 1 YEARS:", nullptr, "Root Mean Square Errors from Report File", ScanSurveyAgeErrors},
     {"FISHERY SELECTIVITY", nullptr, "Fishery Selectivity at Age by Year from Report File",
-     [] { TakeByYear(19, TakeSelectivity); }},
+     [] { TakeByYear(kTableAnnualSelectivity, TakeSelectivity); }},
     {nullptr, nullptr, nullptr, ScanNaturalMortality},
     {"UNFISHED MEAN SPAWN", nullptr, "Unfished Mean Spawning Weight at Age from Report File",
-     [] { TakeAges(20); }},
+     [] { TakeAges(kTableUnfishedWeight); }},
     {"UNFISHED EXPECTED SPAWN", nullptr, "Unfished Expected Spawning Weight at Age from Report File",
-     [] { TakeAges(21); }},
+     [] { TakeAges(kTableUnfishedSpawnings); }},
     {"UNFISHED SPAWNING BIOMASS PER", nullptr, "Unfished Spawning Biomass Per Recruit from Report File",
-     [] { TakeUnfished(1); }},
-    {"UNFISHED SPAWNING BIO", nullptr, "Unfished Spawning Biomass from Report File", [] { TakeUnfished(2); }},
+     [] { TakeUnfished(kUnfishedPerRecruit); }},
+    {"UNFISHED SPAWNING BIO", nullptr, "Unfished Spawning Biomass from Report File",
+     [] { TakeUnfished(kUnfishedSpawning); }},
     {"FRACTION OF UNFISHED", nullptr, "Fraction of Unfished Spawning Biomass by Year from Report File",
-     [] { TakeByYear(22, TakeFraction); }},
+     [] { TakeByYear(kTableUnfishedFraction, TakeFraction); }},
     {"CATCH BIOMASS AT AGE", nullptr, "Catch Biomass at Age by Year from Report File",
-     [] { TakeByYear(23, TakeAgesOfYear); }},
+     [] { TakeByYear(kTableCatchAtAge, TakeAgesOfYear); }},
     {"POPULATION BIOMASS AT AGE", nullptr, "Population Biomass at Age by Year from Report File",
-     [] { TakeByYear(24, TakeAgesOfYear); }},
+     [] { TakeByYear(kTablePopulationAtAge, TakeAgesOfYear); }},
     {"SPAWNING BIOMASS AT AGE", nullptr, "Spawning Biomass at Age by Year from Report File",
-     [] { TakeByYear(25, TakeAgesOfYear); }},
+     [] { TakeByYear(kTableSpawningAtAge, TakeAgesOfYear); }},
     {"EXPLOITABLE BIOMASS AT AGE", nullptr, "Exploitable Biomass at Age by Year from Report File",
-     [] { TakeByYear(26, TakeAgesOfYear); }},
+     [] { TakeByYear(kTableExploitableAtAge, TakeAgesOfYear); }},
 };
 
 void ScanSection(const Section& section) {

@@ -153,7 +153,7 @@ RowList SurveyRows(int survey) {
 
 void ScanCpue() {
   frmOutput->SSTab1.SetTabEnabled(kPlotCpue, false);
-  if (!ReadCpueSeries(PrepareResultTable(18))) return;
+  if (!ReadCpueSeries(PrepareResultTable(kTableCpue))) return;
   frmOutput->SSTab1.SetTabEnabled(kPlotCpue, true);
   frmOutput->Option27(0).SetValue(true);
 }
@@ -161,15 +161,15 @@ void ScanCpue() {
 void ScanSurveyIndices() {
   SurveyTypeWord.clear();
   SurveyIndexYears.ReDim(NIndex, 0, NYears);
-  Grid& grid = PrepareResultTable(2);
+  Grid& grid = PrepareResultTable(kTableSurveyIndex);
   for (int survey = 1; survey <= NIndex; ++survey) ReadSurveyIndex(grid, survey);
   frmOutputData->SSTab1.SetTabCaption(kPageSurveyIndex, " Survey " + SurveyTypeWord + " Index ");
   frmOutputData->Frame3.SetCaption("Survey " + SurveyTypeWord + " Index");
 }
 
 void ScanSurveyAges() {
-  Grid& samples = PrepareResultTable(17);
-  Grid& proportions = PrepareResultTable(4);
+  Grid& samples = PrepareResultTable(kTableSurveySample);
+  Grid& proportions = PrepareResultTable(kTableSurveyAge);
   for (int survey = 1; survey <= NIndex; ++survey) ReadSurveyAges(samples, proportions, survey);
 }
 

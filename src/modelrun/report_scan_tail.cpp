@@ -19,10 +19,10 @@ struct ReferencePoint {
 };
 
 const ReferencePoint kReferencePoints[] = {
-    {"ANNUAL FISHING MORTALITY TO TARGET", "F=", 7, 10},
-    {"ANNUAL FISHING MORTALITY TO LIMIT", "F=", 8, 11},
-    {"ANNUAL SPAWNING BIOMASS TO TARGET", "SB=", 9, 12},
-    {"ANNUAL SPAWNING BIOMASS TO LIMIT", "SB=", 10, 13},
+    {"ANNUAL FISHING MORTALITY TO TARGET", "F=", kRatioTargetF, kTableTargetF},
+    {"ANNUAL FISHING MORTALITY TO LIMIT", "F=", kRatioLimitF, kTableLimitF},
+    {"ANNUAL SPAWNING BIOMASS TO TARGET", "SB=", kRatioTargetSsb, kTableTargetSsb},
+    {"ANNUAL SPAWNING BIOMASS TO LIMIT", "SB=", kRatioLimitSsb, kTableLimitSsb},
 };
 
 // The value of the line in the buffer behind a mark. Two characters are taken for the mark, however long it
@@ -82,7 +82,7 @@ void TakeAtAge(const char* key, Grid& grid) {
 }  // namespace
 
 void ScanReferencePoints() {
-  Label& initial = frmOutputData->lblRatio(6);
+  Label& initial = frmOutputData->lblRatio(kRatioInitialF);
   ReadLine();
   if (LineHolds("INITIAL EQUILIBRIUM FISHING MORTALITY")) {
     initial.SetCaption(TokenFirst(ReadLine()));
@@ -94,7 +94,7 @@ void ScanReferencePoints() {
 }
 
 void ScanFisherySelectivity() {
-  Grid& grid = PrepareResultTable(14);
+  Grid& grid = PrepareResultTable(kTableFisherySelectivity);
   Array1<std::int16_t> starts;
   starts.ReDim(NSelPer);
   for (int period = 1; period <= NSelPer; ++period) {
@@ -114,7 +114,7 @@ void ScanFisherySelectivity() {
 }
 
 void ScanSurveySelectivity() {
-  Grid& grid = PrepareResultTable(15);
+  Grid& grid = PrepareResultTable(kTableSurveySelectivity);
   for (int survey = 1; survey <= NIndex; ++survey) {
     SkipLines(survey > 1 ? 2 : 1);
     ReadDown(grid, 0, survey, RowsTo(NAges));
@@ -123,25 +123,25 @@ void ScanSurveySelectivity() {
 
 void ScanLikelihood() {
   PrepareLikelihoodTables();
-  ReadSummary(1, 3);
-  ReadSummary(2, 4);
+  ReadSummary(kLikelihoodRecruitment, 3);
+  ReadSummary(kLikelihoodFisheryAge, 4);
   for (int survey = 1; survey <= NIndex; ++survey) {
     frmOutputData->MSFlexGrid1.SetTextMatrix(survey, 1, Word(ReadLine(), 5));
   }
-  ReadSummary(3, 3);
-  ReadSummary(4, 3);
-  ReadCpueSummary(6, frmOutputData->LabelCPUE1);
-  ReadSurveySummaries(frmOutputData->MSFlexGrid2, frmOutputData->Label8(12), 5);
-  ReadSummary(5, 5);
+  ReadSummary(kLikelihoodSelectivity, 3);
+  ReadSummary(kLikelihoodCatch, 3);
+  ReadCpueSummary(kLikelihoodCpue, frmOutputData->LabelCPUE1);
+  ReadSurveySummaries(frmOutputData->MSFlexGrid2, frmOutputData->Label8(kLabelLikelihoodIndex), 5);
+  ReadSummary(kLikelihoodF, 5);
 }
 
 void ScanErrors() {
   PrepareErrorTables();
-  ReadSummary(22, 3);
-  ReadSummary(23, 3);
-  ReadCpueSummary(25, frmOutputData->LabelCPUE2);
-  ReadSurveySummaries(frmOutputData->MSFlexGrid3, frmOutputData->Label8(3), 4);
-  ReadSummary(24, 4);
+  ReadSummary(kErrorRecruitment, 3);
+  ReadSummary(kErrorCatch, 3);
+  ReadCpueSummary(kErrorCpue, frmOutputData->LabelCPUE2);
+  ReadSurveySummaries(frmOutputData->MSFlexGrid3, frmOutputData->Label8(kLabelErrorIndex), 4);
+  ReadSummary(kErrorF, 4);
 }
 
 void ScanFisheryAgeErrors() {
@@ -161,12 +161,13 @@ void ScanSurveyAgeErrors() {
 void ScanNaturalMortality() {
   ReadLine();
   if (LineHolds("M SCALAR")) {
-    frmSTD->lblEst(0).SetCaption(Trim(TextBehindEquals()));
+    frmSTD->lblEst(kPointM).SetCaption(Trim(TextBehindEquals()));
     ReadLine();
   }
-  TakeAtAge("M MULT", PrepareParameterTable(4));
-  TakeAtAge("M AT AGE", PrepareParameterTable(5));
-  if (LineHolds("UNFISHED MEAN REC")) frmOutputData->lblUnfished(0).SetCaption(Trim(TextBehindEquals()));
+  TakeAtAge("M MULT", PrepareParameterTable(kTableMMultiplier));
+  TakeAtAge("M AT AGE", PrepareParameterTable(kTableMAtAge));
+  if (LineHolds("UNFISHED MEAN REC"))
+    frmOutputData->lblUnfished(kUnfishedMeanRec).SetCaption(Trim(TextBehindEquals()));
 }
 
 }  // namespace tarnvik

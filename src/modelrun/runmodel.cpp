@@ -39,8 +39,8 @@ bool InputFilesReady() {
   SaveAllInputFiles();
   if (FilesSaved == kFalse) return false;
   CtlFilePath = frmInput->lblCTL.Caption();
-  DatFilePath = frmInput->lblFile(1).Caption();
-  PinFilePath = frmInput->lblFile(0).Caption();
+  DatFilePath = frmInput->lblFile(kFileDat).Caption();
+  PinFilePath = frmInput->lblFile(kFilePin).Caption();
   if (!FileExists(CtlFilePath) || !FileExists(DatFilePath) || !FileExists(PinFilePath) ||
       FilesSaved == kFalse) {
     ShowMessage("Tarnvik Can Not be Executed" + kBreak + "Input Files Unavailable", Icon::Exclamation);
@@ -58,7 +58,7 @@ bool InputFilesReady() {
 // The model works where the control file lies; a bare name hands the question on to the next file.
 std::string WorkingFolder() {
   for (const std::string& path :
-       {CtlFilePath, frmInput->lblFile(0).Caption(), frmInput->lblFile(1).Caption()}) {
+       {CtlFilePath, frmInput->lblFile(kFilePin).Caption(), frmInput->lblFile(kFileDat).Caption()}) {
     const std::string folder = DirOfPath(path);
     if (!folder.empty()) return folder;
   }

@@ -31,7 +31,9 @@ int Periods() { return NSelPer; }
 int Surveys() { return NIndex; }
 
 // How many ages of a period have a parameter of their own.
-int SelectivityAges(int period) { return ValInt(frmInput->ORVFlexGrid(11).TextMatrix(period, 1)); }
+int SelectivityAges(int period) {
+  return ValInt(frmInput->ORVFlexGrid(kGridFisherySelAges).TextMatrix(period, 1));
+}
 
 int SelectivityParameters() {
   int count = 0;
@@ -74,55 +76,72 @@ struct Quantity {
 };
 
 const Quantity kQuantities[] = {
-    {"M", Match::Exact, One, [](int, Text v, Text d) { PutPoint(0, v, d); }},
-    {"mean_log_rec", Match::Exact, One, [](int, Text v, Text d) { PutPoint(1, v, d); }},
+    {"M", Match::Exact, One, [](int, Text v, Text d) { PutPoint(kPointM, v, d); }},
+    {"mean_log_rec", Match::Exact, One, [](int, Text v, Text d) { PutPoint(kPointLogRec, v, d); }},
     {"rec_dev", Match::Exact, RecruitYears,
-     [](int i, Text v, Text d) { PutPair(ParameterTable(0), i, 1, v, d); }},
-    {"log_avg_fmort", Match::Exact, One, [](int, Text v, Text d) { PutPoint(2, v, d); }},
-    {"fmort_dev", Match::Exact, Years, [](int i, Text v, Text d) { PutPair(ParameterTable(1), i, 1, v, d); }},
-    {"QCPUE", Match::ContainsUpper, One, [](int, Text v, Text d) { PutPoint(3, v, d); }},
-    {"EXP_CPUE", Match::ContainsUpper, One, [](int, Text v, Text d) { PutPoint(4, v, d); }},
+     [](int i, Text v, Text d) { PutPair(ParameterTable(kTableRecDevs), i, 1, v, d); }},
+    {"log_avg_fmort", Match::Exact, One, [](int, Text v, Text d) { PutPoint(kPointLogF, v, d); }},
+    {"fmort_dev", Match::Exact, Years,
+     [](int i, Text v, Text d) { PutPair(ParameterTable(kTableFDevs), i, 1, v, d); }},
+    {"QCPUE", Match::ContainsUpper, One, [](int, Text v, Text d) { PutPoint(kPointCpueQ, v, d); }},
+    {"EXP_CPUE", Match::ContainsUpper, One, [](int, Text v, Text d) { PutPoint(kPointCpueExponent, v, d); }},
     {"log_selpar_fish", Match::Lower, SelectivityParameters,
      [](int i, Text v, Text d) {
        const auto [period, age] = PeriodAndAge(i);
-       PutColumnPair(2, age + 3, period, v, d);
+       PutColumnPair(kTableFisheryParameters, age + 3, period, v, d);
      }},
-    {"log_gamma_fish", Match::Lower, Periods, [](int i, Text v, Text d) { PutColumnPair(2, 1, i, v, d); }},
-    {"log_beta_fish", Match::Lower, Periods, [](int i, Text v, Text d) { PutColumnPair(2, 2, i, v, d); }},
-    {"log_a50_fish", Match::Lower, Periods, [](int i, Text v, Text d) { PutColumnPair(2, 3, i, v, d); }},
-    {"qsurvey", Match::Lower, Surveys, [](int i, Text v, Text d) { PutColumnPair(3, 1, i, v, d); }},
-    {"exp_survey", Match::Lower, Surveys, [](int i, Text v, Text d) { PutColumnPair(3, 2, i, v, d); }},
-    {"log_gamma_survey", Match::Lower, Surveys, [](int i, Text v, Text d) { PutColumnPair(3, 3, i, v, d); }},
-    {"log_beta_survey", Match::Lower, Surveys, [](int i, Text v, Text d) { PutColumnPair(3, 4, i, v, d); }},
-    {"log_a50_survey", Match::Lower, Surveys, [](int i, Text v, Text d) { PutColumnPair(3, 5, i, v, d); }},
-    {"meanr", Match::Lower, One, [](int, Text v, Text d) { PutPoint(5, v, d); }},
+    {"log_gamma_fish", Match::Lower, Periods,
+     [](int i, Text v, Text d) { PutColumnPair(kTableFisheryParameters, 1, i, v, d); }},
+    {"log_beta_fish", Match::Lower, Periods,
+     [](int i, Text v, Text d) { PutColumnPair(kTableFisheryParameters, 2, i, v, d); }},
+    {"log_a50_fish", Match::Lower, Periods,
+     [](int i, Text v, Text d) { PutColumnPair(kTableFisheryParameters, 3, i, v, d); }},
+    {"qsurvey", Match::Lower, Surveys,
+     [](int i, Text v, Text d) { PutColumnPair(kTableSurveyParameters, 1, i, v, d); }},
+    {"exp_survey", Match::Lower, Surveys,
+     [](int i, Text v, Text d) { PutColumnPair(kTableSurveyParameters, 2, i, v, d); }},
+    {"log_gamma_survey", Match::Lower, Surveys,
+     [](int i, Text v, Text d) { PutColumnPair(kTableSurveyParameters, 3, i, v, d); }},
+    {"log_beta_survey", Match::Lower, Surveys,
+     [](int i, Text v, Text d) { PutColumnPair(kTableSurveyParameters, 4, i, v, d); }},
+    {"log_a50_survey", Match::Lower, Surveys,
+     [](int i, Text v, Text d) { PutColumnPair(kTableSurveyParameters, 5, i, v, d); }},
+    {"meanr", Match::Lower, One, [](int, Text v, Text d) { PutPoint(kPointMeanRec, v, d); }},
     // The values of the rest stand in the report.
-    {"popnbiom", Match::Exact, Years, [](int i, Text, Text d) { ResultTable(5).SetTextMatrix(i, 2, d); }},
-    {"spawnbiom", Match::Exact, Years, [](int i, Text, Text d) { ResultTable(5).SetTextMatrix(i, 4, d); }},
+    {"popnbiom", Match::Exact, Years,
+     [](int i, Text, Text d) { ResultTable(kTableBiomass).SetTextMatrix(i, 2, d); }},
+    {"spawnbiom", Match::Exact, Years,
+     [](int i, Text, Text d) { ResultTable(kTableBiomass).SetTextMatrix(i, 4, d); }},
     {"recruitment", Match::Exact, RecruitYears,
-     [](int i, Text, Text d) { ResultTable(6).SetTextMatrix(i, 2, d); }},
-    {"explbiom", Match::Exact, Years, [](int i, Text, Text d) { ResultTable(5).SetTextMatrix(i, 6, d); }},
+     [](int i, Text, Text d) { ResultTable(kTableRecruitment).SetTextMatrix(i, 2, d); }},
+    {"explbiom", Match::Exact, Years,
+     [](int i, Text, Text d) { ResultTable(kTableBiomass).SetTextMatrix(i, 6, d); }},
     {"surplus_production", Match::Exact, YearsButLast,
-     [](int i, Text, Text d) { ResultTable(8).SetTextMatrix(i, 2, d); }},
-    {"deppopnbiom", Match::Exact, One, [](int, Text, Text d) { PutRatio(0, d); }},
-    {"deppopnbiom_depyr", Match::Exact, One, [](int, Text, Text d) { PutRatio(1, d); }},
-    {"depspawnbiom", Match::Exact, One, [](int, Text, Text d) { PutRatio(2, d); }},
-    {"depspawnbiom_depyr", Match::Exact, One, [](int, Text, Text d) { PutRatio(3, d); }},
-    {"depF", Match::Exact, One, [](int, Text, Text d) { PutRatio(4, d); }},
-    {"depF_depyr", Match::Exact, One, [](int, Text, Text d) { PutRatio(5, d); }},
+     [](int i, Text, Text d) { ResultTable(kTableSurplus).SetTextMatrix(i, 2, d); }},
+    {"deppopnbiom", Match::Exact, One, [](int, Text, Text d) { PutRatio(kRatioPopulation, d); }},
+    {"deppopnbiom_depyr", Match::Exact, One, [](int, Text, Text d) { PutRatio(kRatioPopulationRef, d); }},
+    {"depspawnbiom", Match::Exact, One, [](int, Text, Text d) { PutRatio(kRatioSpawningRef, d); }},
+    {"depspawnbiom_depyr", Match::Exact, One, [](int, Text, Text d) { PutRatio(kRatioSpawning, d); }},
+    {"depF", Match::Exact, One, [](int, Text, Text d) { PutRatio(kRatioF, d); }},
+    {"depF_depyr", Match::Exact, One, [](int, Text, Text d) { PutRatio(kRatioFRef, d); }},
     {"endN", Match::Exact, Ages,
-     [](int i, Text, Text d) { ResultTable(0).SetTextMatrix(ResultTable(0).Rows() - 2, i, d); }},
+     [](int i, Text, Text d) {
+       ResultTable(kTableNumbers).SetTextMatrix(ResultTable(kTableNumbers).Rows() - 2, i, d);
+     }},
     {"projN", Match::Exact, Ages,
-     [](int i, Text, Text d) { ResultTable(0).SetTextMatrix(ResultTable(0).Rows() - 1, i, d); }},
-    {"fullF", Match::Exact, Years, [](int i, Text, Text d) { ResultTable(9).SetTextMatrix(i, 2, d); }},
+     [](int i, Text, Text d) {
+       ResultTable(kTableNumbers).SetTextMatrix(ResultTable(kTableNumbers).Rows() - 1, i, d);
+     }},
+    {"fullF", Match::Exact, Years,
+     [](int i, Text, Text d) { ResultTable(kTableAverageF).SetTextMatrix(i, 2, d); }},
     {"target_f_ratio", Match::Lower, Years,
-     [](int i, Text, Text d) { ResultTable(10).SetTextMatrix(i, 2, d); }},
+     [](int i, Text, Text d) { ResultTable(kTableTargetF).SetTextMatrix(i, 2, d); }},
     {"limit_f_ratio", Match::Lower, Years,
-     [](int i, Text, Text d) { ResultTable(11).SetTextMatrix(i, 2, d); }},
+     [](int i, Text, Text d) { ResultTable(kTableLimitF).SetTextMatrix(i, 2, d); }},
     {"target_spawnbiom_ratio", Match::Lower, Years,
-     [](int i, Text, Text d) { ResultTable(12).SetTextMatrix(i, 2, d); }},
+     [](int i, Text, Text d) { ResultTable(kTableTargetSsb).SetTextMatrix(i, 2, d); }},
     {"limit_spawnbiom_ratio", Match::Lower, Years,
-     [](int i, Text, Text d) { ResultTable(13).SetTextMatrix(i, 2, d); }},
+     [](int i, Text, Text d) { ResultTable(kTableLimitSsb).SetTextMatrix(i, 2, d); }},
 };
 
 bool Matches(const Quantity& quantity, Text name, const std::string& lower_name) {
@@ -157,15 +176,15 @@ void TakeLine() {
 
 // What the model holds fixed it does not report: it shows the value that the model was given.
 void ShowInputSelectivity() {
-  Grid& grid = ParameterTable(2);
+  Grid& grid = ParameterTable(kTableFisheryParameters);
   MarkNotAvailable(grid, 2, 2);
   for (int period = 1; period <= NSelPer; ++period) {
     const int col = 2 * period - 1;
     for (int row = 1; row <= 3; ++row) {
-      grid.SetTextMatrix(row, col, frmPin->ORVFlexGrid1(2).TextMatrix(row, period));
+      grid.SetTextMatrix(row, col, frmPin->ORVFlexGrid1(kPinFisheryCurve).TextMatrix(row, period));
     }
     for (int age = 1; age <= NAges; ++age) {
-      const std::string& value = frmPin->ORVFlexGrid1(4).TextMatrix(period, age);
+      const std::string& value = frmPin->ORVFlexGrid1(kPinFisheryByPeriod).TextMatrix(period, age);
       grid.SetTextMatrix(age + 3, col, IsBlank(value) ? Text(kNotAvailable) : Text(value));
     }
   }
@@ -173,13 +192,15 @@ void ShowInputSelectivity() {
 
 void PrepareTables() {
   // A value of M that the report gave stays.
-  for (Label* label : {&frmSTD->lblEst(0), &frmSTD->lblStd(0)}) {
+  for (Label* label : {&frmSTD->lblEst(kPointM), &frmSTD->lblStd(kPointM)}) {
     if (label->Caption().empty()) label->SetCaption(kNotAvailable);
   }
-  for (const int label : {1, 3, 4, 5}) PutPoint(label, kNotAvailable, kNotAvailable);
-  for (const int table : {0, 1, 2, 3}) PrepareParameterTable(table);
+  for (const int label : {kPointLogRec, kPointCpueQ, kPointCpueExponent, kPointMeanRec})
+    PutPoint(label, kNotAvailable, kNotAvailable);
+  for (const int table : {kTableRecDevs, kTableFDevs, kTableFisheryParameters, kTableSurveyParameters})
+    PrepareParameterTable(table);
   ShowInputSelectivity();
-  MarkNotAvailable(ParameterTable(3), 1);
+  MarkNotAvailable(ParameterTable(kTableSurveyParameters), 1);
 }
 
 }  // namespace

@@ -110,7 +110,7 @@ void PlotCollectForm::Load() { frmPlotCollect_Form_Load(); }
 int CountYearsObserved() {
   int years = 0;
   for (int row = 1; row <= NYears; ++row) {
-    if (HasObservedShare(ResultTable(3), row, 2)) ++years;
+    if (HasObservedShare(ResultTable(kTableFisheryAge), row, 2)) ++years;
   }
   return years;
 }

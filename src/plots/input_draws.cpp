@@ -239,31 +239,31 @@ std::optional<Source> SelectivityRow(const Grid& grid, std::string_view ages_tex
 
 void DrawCatchBiomass() {
   DrawPlot(Plot::CatchBiomass, [] {
-    const Grid& grid = frmInput->ORVFlexGrid(0);
+    const Grid& grid = frmInput->ORVFlexGrid(kGridCatch);
     return Source{ColumnTexts(grid, 1), Counted(NFYear, NXYear, grid.Rows() - 1), ""};
   });
 }
 
 void DrawFisheryCpue() {
   DrawPlot(Plot::FisheryCpue, [] {
-    if (frmInput->cmdCondenseGrd(0).Enabled()) CondenseGrid(0);
-    return YearColumn(frmInput->ORVFlexGrid(5));
+    if (frmInput->cmdCondenseGrd(kToolCpue).Enabled()) CondenseGrid(kToolCpue);
+    return YearColumn(frmInput->ORVFlexGrid(kGridCpue));
   });
 }
 
 void DrawRecruitmentDeviations() {
-  DrawPlot(Plot::RecruitmentDeviations, [] { return YearColumn(frmPin->ORVFlexGrid1(0)); });
+  DrawPlot(Plot::RecruitmentDeviations, [] { return YearColumn(frmPin->ORVFlexGrid1(kPinRecDevs)); });
 }
 
 void DrawFishingMortalityDeviations() {
-  DrawPlot(Plot::FishingMortalityDeviations, [] { return YearColumn(frmPin->ORVFlexGrid1(1)); });
+  DrawPlot(Plot::FishingMortalityDeviations, [] { return YearColumn(frmPin->ORVFlexGrid1(kPinFDevs)); });
 }
 
 // The axis reaches over all years, so that one year compares with another.
 void DrawFisheryAge() {
   DrawChosen(Plot::FisheryAge, [] {
     constexpr int kFirstAgeColumn = 3;
-    const Grid& grid = frmInput->ORVFlexGrid(1);
+    const Grid& grid = frmInput->ORVFlexGrid(kGridFisheryAge);
     const int ages = grid.Cols() - kFirstAgeColumn;
     Source source = AgeRow(grid, kFirstAgeColumn, ages, frmPlotInput->cboPlot2);
     for (int row = 1; row < grid.Rows(); ++row) {
@@ -274,14 +274,20 @@ void DrawFisheryAge() {
   });
 }
 
-void DrawCatchWeight() { DrawYear(Plot::CatchWeight, frmInput->ORVFlexGrid(6), frmPlotInput->cboPlot6); }
+void DrawCatchWeight() {
+  DrawYear(Plot::CatchWeight, frmInput->ORVFlexGrid(kGridCatchWeight), frmPlotInput->cboPlot6);
+}
 
-void DrawStockWeight() { DrawYear(Plot::StockWeight, frmInput->ORVFlexGrid(4), frmPlotInput->cboPlot7); }
+void DrawStockWeight() {
+  DrawYear(Plot::StockWeight, frmInput->ORVFlexGrid(kGridStockWeight), frmPlotInput->cboPlot7);
+}
 
-void DrawMaturity() { DrawYear(Plot::Maturity, frmInput->ORVFlexGrid(7), frmPlotInput->cboPlot8); }
+void DrawMaturity() {
+  DrawYear(Plot::Maturity, frmInput->ORVFlexGrid(kGridMaturity), frmPlotInput->cboPlot8);
+}
 
 void DrawSpawningWeight() {
-  DrawYear(Plot::SpawningWeight, frmInput->ORVFlexGrid(14), frmPlotInput->cboPlot11);
+  DrawYear(Plot::SpawningWeight, frmInput->ORVFlexGrid(kGridSpawnWeight), frmPlotInput->cboPlot11);
 }
 
 namespace {
@@ -289,7 +295,7 @@ namespace {
 Texts SurveyAges(int survey, int year) {
   Texts texts;
   for (int age = 1; age <= NAges; ++age) {
-    texts.emplace_back(SurvAgeFit(survey, age + 2, year - NFYear + 1));
+    texts.emplace_back(SurvAgeFit(survey, kStoreBeforeAges + age, year - NFYear + 1));
   }
   return texts;
 }
@@ -313,7 +319,7 @@ Source ChosenSurveyIndex() {
   const int first = SurvFYear(survey);
   const int years = SurvNYears(survey);
   Texts index;
-  for (int i = 1; i <= years; ++i) index.emplace_back(SurvYearFit(survey, 1, first - NFYear + i));
+  for (int i = 1; i <= years; ++i) index.emplace_back(SurvYearFit(survey, kStoreValue, first - NFYear + i));
   return {index, Counted(first, SurvXYear(survey), years), frmPlotInput->cboPlot5.List(survey - 1)};
 }
 
@@ -321,7 +327,7 @@ Source ChosenSurveyIndex() {
 
 void DrawSurveyAge() {
   DrawSilently([] {
-    StoreSurveyGrid(15);
+    StoreSurveyGrid(kGridSurveyAge);
     DrawChosen(Plot::SurveyAge, ChosenSurveyAges);
   });
 }
@@ -329,7 +335,7 @@ void DrawSurveyAge() {
 void DrawSurveyIndex() {
   if (PlotIndex == 0) return;
   DrawSilently([] {
-    StoreSurveyGrid(16);
+    StoreSurveyGrid(kGridSurveyIndex);
     DrawPlot(Plot::SurveyIndex, ChosenSurveyIndex);
   });
 }
@@ -338,11 +344,11 @@ void DrawFisherySelectivity() {
   DrawChosen(Plot::FisherySelectivity, []() -> std::optional<Source> {
     const ComboBox& list = frmPlotInput->cboPlot12;
     if (frmPin->frmNonParFishSel1.Visible()) {
-      return SelectivityRow(frmPin->ORVFlexGrid1(4), frmInput->ORVFlexGrid(11).TextMatrix(PlotIndex, 1),
-                            list);
+      return SelectivityRow(frmPin->ORVFlexGrid1(kPinFisheryByPeriod),
+                            frmInput->ORVFlexGrid(kGridFisherySelAges).TextMatrix(PlotIndex, 1), list);
     }
     if (frmPin->frmNonParFishSel2.Visible()) {
-      return SelectivityRow(frmPin->ORVFlexGrid1(7), frmInput->txtFishSelAge.Text(), list);
+      return SelectivityRow(frmPin->ORVFlexGrid1(kPinFisheryAnnual), frmInput->txtFishSelAge.Text(), list);
     }
     return std::nullopt;
   });
@@ -350,7 +356,8 @@ void DrawFisherySelectivity() {
 
 void DrawSurveySelectivity() {
   DrawChosen(Plot::SurveySelectivity, [] {
-    return SelectivityRow(frmPin->ORVFlexGrid1(6), frmInput->ORVFlexGrid(12).TextMatrix(PlotIndex, 1),
+    return SelectivityRow(frmPin->ORVFlexGrid1(kPinSurveyByAge),
+                          frmInput->ORVFlexGrid(kGridSurveySelAges).TextMatrix(PlotIndex, 1),
                           frmPlotInput->cboPlot13);
   });
 }

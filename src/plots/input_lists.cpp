@@ -7,6 +7,7 @@
 #include "inputedit/frminput.h"
 #include "inputedit/frmpin.h"
 #include "inputedit/gridtools.h"
+#include "inputedit/labels.h"
 #include "plots/frmplotinput.h"
 #include "plots/input_draws.h"
 #include "plots/plot_parts.h"
@@ -33,7 +34,7 @@ void FillYears(ComboBox& list, const Grid& grid) {
 
 void FillSurveys(ComboBox& list) {
   list.Clear();
-  for (int survey = 1; survey <= NIndex; ++survey) list.AddItem(SurveyItem(survey));
+  for (int survey = 1; survey <= NIndex; ++survey) list.AddItem(SurveyLabel(survey));
   ChooseFirst(list);
 }
 
@@ -42,7 +43,7 @@ void ClearSeriesSelection() {
 }
 
 std::string PeriodItem(int period) {
-  const Grid& periods = frmInput->ORVFlexGrid(8);
+  const Grid& periods = frmInput->ORVFlexGrid(kGridPeriods);
   return "Select. Period " + NumberText(period) + ": " + periods.TextMatrix(period, 1) + "-" +
          periods.TextMatrix(period, 2);
 }
@@ -96,8 +97,8 @@ namespace input_plots {
 
 void FillFisheryAgeYears() {
   DrawSilently([] {
-    if (frmInput->cmdCondenseGrd(1).Enabled()) CondenseGrid(1);
-    FillYears(frmPlotInput->cboPlot2, frmInput->ORVFlexGrid(1));
+    if (frmInput->cmdCondenseGrd(kToolFisheryAge).Enabled()) CondenseGrid(kToolFisheryAge);
+    FillYears(frmPlotInput->cboPlot2, frmInput->ORVFlexGrid(kGridFisheryAge));
   });
 }
 
@@ -124,19 +125,19 @@ void FillSurveyIndexCombo() {
 }
 
 void FillCatchWeightYears() {
-  DrawSilently([] { FillYears(frmPlotInput->cboPlot6, frmInput->ORVFlexGrid(6)); });
+  DrawSilently([] { FillYears(frmPlotInput->cboPlot6, frmInput->ORVFlexGrid(kGridCatchWeight)); });
 }
 
 void FillStockWeightYears() {
-  DrawSilently([] { FillYears(frmPlotInput->cboPlot7, frmInput->ORVFlexGrid(4)); });
+  DrawSilently([] { FillYears(frmPlotInput->cboPlot7, frmInput->ORVFlexGrid(kGridStockWeight)); });
 }
 
 void FillMaturityYears() {
-  DrawSilently([] { FillYears(frmPlotInput->cboPlot8, frmInput->ORVFlexGrid(7)); });
+  DrawSilently([] { FillYears(frmPlotInput->cboPlot8, frmInput->ORVFlexGrid(kGridMaturity)); });
 }
 
 void FillSpawningWeightYears() {
-  DrawSilently([] { FillYears(frmPlotInput->cboPlot11, frmInput->ORVFlexGrid(14)); });
+  DrawSilently([] { FillYears(frmPlotInput->cboPlot11, frmInput->ORVFlexGrid(kGridSpawnWeight)); });
 }
 
 void FillFisherySelectivityCombo() {
@@ -145,7 +146,7 @@ void FillFisherySelectivityCombo() {
     ComboBox& list = form.cboPlot12;
     list.Clear();
     if (frmPin->frmNonParFishSel1.Visible()) {
-      for (int period = 1; period < frmInput->ORVFlexGrid(8).Rows(); ++period) {
+      for (int period = 1; period < frmInput->ORVFlexGrid(kGridPeriods).Rows(); ++period) {
         list.AddItem(PeriodItem(period));
       }
       form.frmPlot12.SetCaption("Select a Period to Plot");

@@ -41,7 +41,7 @@ void RefreshInputPlots() {
 
   OfferPage(kInputFisherySelectivity, !frmPin->frmParFishSel.Visible(), FillFisherySelectivityCombo);
   OfferPage(kInputSurveySelectivity, !frmPin->frmParSurvSel.Visible(), FillSurveySelectivityCombo);
-  OfferPage(kInputM, frmInput->chkEstimate(1).IsChecked(), DrawMPrior);
+  OfferPage(kInputM, frmInput->chkEstimate(kItemM).IsChecked(), DrawMPrior);
 }
 
 }  // namespace tarnvik

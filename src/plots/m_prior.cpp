@@ -190,8 +190,8 @@ void DrawMPrior() {
   DrawSilently([] {
     Chart& chart = frmPlotInput->Chart14;
     chart.ClearData();
-    const std::string_view M0 = Trim(frmPin->txtParmFile(0).Text());
-    const std::string_view CV = Trim(frmInput->txtEstimate(0).Text());
+    const std::string_view M0 = Trim(frmPin->txtParmFile(kParmM).Text());
+    const std::string_view CV = Trim(frmInput->txtEstimate(kItemMCv).Text());
     const std::string_view epsilon = Trim(frmInput->txtEpsilon.Text());
     const int MType = frmInput->cmbMType.ListIndex();
     if (M0.empty() || CV.empty() || MType < 0) {

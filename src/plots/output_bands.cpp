@@ -102,8 +102,8 @@ void DrawBiomassTotals() {
     ClearChart(form.Chart6);
     const int option = SelectedOption(form.Option6);
     const std::string& name = form.Option6(option).Caption();
-    DrawEstimates(form.Chart6, YearDrawing(name + " (mt)", 0), ByYear(ResultTable(5), 2 * option + 1),
-                  LevelsOf(form, 0), name);
+    DrawEstimates(form.Chart6, YearDrawing(name + " (mt)", 0),
+                  ByYear(ResultTable(kTableBiomass), 2 * option + 1), LevelsOf(form, 0), name);
   });
 }
 
@@ -111,7 +111,7 @@ void DrawRecruits() {
   DrawSilently([] {
     OutputForm& form = *frmOutput;
     ClearChart(form.Chart9);
-    const Grid& grid = ResultTable(6);
+    const Grid& grid = ResultTable(kTableRecruitment);
     if (SelectedOption(form.Option9) == 1) {
       return DrawResiduals(form.Chart9, YearDrawing("Standardized Log-Scale Residuals for Recruitment", 2),
                            LabelYears(grid), grid, 3);
@@ -126,7 +126,7 @@ void DrawSurplusProduction() {
     OutputForm& form = *frmOutput;
     ClearChart(form.Chart11);
     DrawEstimates(form.Chart11, YearDrawing("Annual Surplus Production (mt)", 0),
-                  ByLabelYear(ResultTable(8), 1), LevelsOf(form, 4), "Annual Surplus Production");
+                  ByLabelYear(ResultTable(kTableSurplus), 1), LevelsOf(form, 4), "Annual Surplus Production");
   });
 }
 
@@ -134,7 +134,7 @@ void DrawAverageF() {
   DrawSilently([] {
     OutputForm& form = *frmOutput;
     ClearChart(form.Chart12);
-    const Grid& grid = ResultTable(9);
+    const Grid& grid = ResultTable(kTableAverageF);
     if (SelectedOption(form.Option12) == 1) {
       return DrawResiduals(form.Chart12,
                            YearDrawing("Standardized Log-Scale Residuals for Fishing Mortality"),
@@ -203,7 +203,7 @@ void DrawEndNumbers() {
     OutputForm& form = *frmOutput;
     ClearChart(form.Chart23);
     const bool next_year = SelectedOption(form.Option23) == 1;
-    const Grid& grid = ResultTable(0);
+    const Grid& grid = ResultTable(kTableNumbers);
     const int row = next_year ? NYears + 1 : NYears;
     Drawing drawing = AgeDrawing(next_year ? "Numbers at Age (Thousands) in Last Year Plus One"
                                            : "Numbers at Age (Thousands) in Last Year");

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "core/globals.h"
+#include "inputedit/labels.h"
 #include "plots/drawing.h"
 #include "plots/output_drawings.h"
 #include "results/frmoutput.h"
@@ -37,7 +38,7 @@ void DrawNumbersAtAge() {
     drawing.y_decimals = 0;
     drawing.legend = true;
     for (int j = 1; j <= PlotIndex; ++j) {
-      Points numbers = PointsAcross(ResultTable(0), PlotSeriesSel[j], 1, NAges);
+      Points numbers = PointsAcross(ResultTable(kTableNumbers), PlotSeriesSel[j], 1, NAges);
       for (double& y : numbers) {
         y = WholeNumber(y);
         if (!IsHidden(y)) drawing.y_limits.TakeUpper(y);
@@ -54,7 +55,7 @@ void DrawAgeF() {
     ClearChart(form.Chart2);
     if (PlotIndex == 0) return;
     PutCurve(form.Chart2, YearDrawing("Estimated Fishing Mortality for Age " + std::to_string(PlotIndex), 4),
-             PointsDown(ResultTable(1), 1, PlotIndex, NYears));
+             PointsDown(ResultTable(kTableAgeF), 1, PlotIndex, NYears));
     PlotIndex = 0;
   });
 }
@@ -90,8 +91,8 @@ void output_plots::DrawFisherySelectivity() {
         AgeDrawing((by_period ? "Fishery Selectivity for " : "Fishery Selectivity for Year ") + item);
     drawing.gallery = kBars;
     PutCurve(form.Chart13, std::move(drawing),
-             by_period ? PointsDown(ResultTable(14), 1, PlotIndex, NAges)
-                       : PointsAcross(ResultTable(19), PlotIndex, 1, NAges));
+             by_period ? PointsDown(ResultTable(kTableFisherySelectivity), 1, PlotIndex, NAges)
+                       : PointsAcross(ResultTable(kTableAnnualSelectivity), PlotIndex, 1, NAges));
     PlotIndex = 0;
   });
 }
@@ -101,9 +102,10 @@ void output_plots::DrawSurveySelectivity() {
     OutputForm& form = *frmOutput;
     ClearChart(form.Chart14);
     if (PlotIndex == 0) return;
-    Drawing drawing = AgeDrawing("Selectivity for " + SurveyItem(PlotIndex));
+    Drawing drawing = AgeDrawing("Selectivity for " + SurveyLabel(PlotIndex));
     drawing.gallery = kBars;
-    PutCurve(form.Chart14, std::move(drawing), PointsDown(ResultTable(15), 1, PlotIndex, NAges));
+    PutCurve(form.Chart14, std::move(drawing),
+             PointsDown(ResultTable(kTableSurveySelectivity), 1, PlotIndex, NAges));
     PlotIndex = 0;
   });
 }
@@ -145,7 +147,7 @@ void DrawFisherySampleSize() {
   DrawSilently([] {
     OutputForm& form = *frmOutput;
     ClearChart(form.Chart17);
-    DrawSampleSizes(form.Chart17, "Fishery Age Composition Sample Size", ResultTable(16), 1);
+    DrawSampleSizes(form.Chart17, "Fishery Age Composition Sample Size", ResultTable(kTableFisherySample), 1);
   });
 }
 
@@ -155,8 +157,8 @@ void DrawSurveySampleSize() {
     OutputForm& form = *frmOutput;
     ClearChart(form.Chart18);
     if (PlotIndex == 0) return;
-    DrawSampleSizes(form.Chart18, "Age Composition Sample Size for " + SurveyItem(PlotIndex), ResultTable(17),
-                    2 * PlotIndex - 1);
+    DrawSampleSizes(form.Chart18, "Age Composition Sample Size for " + SurveyLabel(PlotIndex),
+                    ResultTable(kTableSurveySample), 2 * PlotIndex - 1);
     PlotIndex = 0;
   });
 }
@@ -165,8 +167,8 @@ void DrawFvsSsb() {
   DrawSilently([] {
     OutputForm& form = *frmOutput;
     ClearChart(form.Chart15);
-    Points f = PointsDown(ResultTable(9), 1, 1, NYears);
-    Points biomass = PointsDown(ResultTable(5), 1, 3, NYears);
+    Points f = PointsDown(ResultTable(kTableAverageF), 1, 1, NYears);
+    Points biomass = PointsDown(ResultTable(kTableBiomass), 1, 3, NYears);
     for (std::size_t i = 0; i < f.size(); ++i) {
       if (!IsHidden(biomass[i])) continue;
       biomass[i] = 0;

@@ -6,6 +6,7 @@
 
 #include "core/globals.h"
 #include "core/text.h"
+#include "inputedit/labels.h"
 #include "plots/drawing.h"
 #include "plots/output_drawings.h"
 #include "results/frmoutput.h"
@@ -70,7 +71,7 @@ void DrawCpueIndex() {
                                   "Standardized Log-Scale Residuals for "};
     const int k = SelectedOption(form.Option27);
     const std::string kind(Trim(form.SSTab1.TabCaption(kPlotCpue)));
-    DrawIndexFit(form.Chart27, ResultTable(18), 1, 1, k, titles[k] + kind);
+    DrawIndexFit(form.Chart27, ResultTable(kTableCpue), 1, 1, k, titles[k] + kind);
   });
 }
 
@@ -88,8 +89,8 @@ void output_plots::DrawSurveyIndex() {
     PlotSeriesSel[1] = Int16(k);
     const char* const before[] = {"", "", "Log-Scale ", "Standardized Log-Scale "};
     const std::string title =
-        before[k] + kind + (k > 0 ? " Index Residuals for " : " Index for ") + SurveyItem(survey);
-    DrawIndexFit(form.Chart3, ResultTable(2), (survey - 1) * NYears + 1, 2, k, title);
+        before[k] + kind + (k > 0 ? " Index Residuals for " : " Index for ") + SurveyLabel(survey);
+    DrawIndexFit(form.Chart3, ResultTable(kTableSurveyIndex), (survey - 1) * NYears + 1, 2, k, title);
   });
 }
 
@@ -103,7 +104,7 @@ void DrawTotalCatch() {
                                   "Standardized Log-Scale Residuals for Catch Biomass"};
     const int k = PlotIndex - 1;
     Drawing drawing = YearFitDrawing(titles[k], k);
-    drawing.series = FitByYear(ResultTable(7), 1, 1, k);
+    drawing.series = FitByYear(ResultTable(kTableCatch), 1, 1, k);
     drawing.TakeLimits();
     Hide(drawing, k == 0 ? IsNegative : IsNoCatch);
     if (k == 0) std::swap(drawing.series[0].gallery, drawing.series[1].gallery);
@@ -159,7 +160,8 @@ void DrawFisheryAgeFit() {
                                   "Standardized Fishery Proportion Residuals at Age for Year "};
     const int year = ChosenYear(form.Check4, form.cboPlot4);
     const int k = SelectedOption(form.Option4);
-    DrawAgeFit({form.Chart4, ResultTable(3), 0, 2, year, k}, titles[k] + std::to_string(NFYear + year - 1));
+    DrawAgeFit({form.Chart4, ResultTable(kTableFisheryAge), 0, 2, year, k},
+               titles[k] + std::to_string(NFYear + year - 1));
     PlotIndex = 0;
   });
 }
@@ -174,8 +176,8 @@ void DrawSurveyAgeFit() {
                                   "Standardized Proportion Residuals at Age for Year "};
     const int year = ChosenYear(form.Check5, form.cboPlot5b);
     const int k = SelectedOption(form.Option5);
-    DrawAgeFit({form.Chart5, ResultTable(4), (survey - 1) * 4 * NYears, 3, year, k},
-               titles[k] + std::to_string(NFYear + year - 1) + " for " + SurveyItem(survey));
+    DrawAgeFit({form.Chart5, ResultTable(kTableSurveyAge), (survey - 1) * 4 * NYears, 3, year, k},
+               titles[k] + std::to_string(NFYear + year - 1) + " for " + SurveyLabel(survey));
     PlotIndex = 0;
   });
 }

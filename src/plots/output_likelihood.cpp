@@ -24,7 +24,7 @@ Components ComponentsOfResults() {
   const OutputDataForm& results = *frmOutputData;
   const auto value = [&results](int index) { return results.lblSumm(index).Caption(); };
   // The kind of index behind the word "Survey".
-  const std::string index_kind = results.Label8(12).Caption().substr(6);
+  const std::string index_kind = results.Label8(kLabelLikelihoodIndex).Caption().substr(6);
   Components components = {
       {"Recruitment Dev.", value(1)},
       {"Fishery Age Comp.", value(2)},

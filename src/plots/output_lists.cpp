@@ -5,6 +5,7 @@
 
 #include "core/globals.h"
 #include "core/text.h"
+#include "inputedit/labels.h"
 #include "platform/host.h"
 #include "plots/drawing.h"
 #include "plots/frmplotcollect.h"
@@ -23,7 +24,7 @@ void SelectFirst(ComboBox& list, Chart& chart) {
 
 void AddSurveys(ComboBox& list) {
   list.Clear();
-  for (int survey = 1; survey <= NIndex; ++survey) list.AddItem(SurveyItem(survey));
+  for (int survey = 1; survey <= NIndex; ++survey) list.AddItem(SurveyLabel(survey));
 }
 
 void AddAges(ComboBox& list) {
@@ -84,7 +85,7 @@ void FillFisherySelectivities() {
   DrawSilently([] {
     OutputForm& form = *frmOutput;
     EnableSelectivityList();
-    const Grid& periods = ResultTable(14);
+    const Grid& periods = ResultTable(kTableFisherySelectivity);
     form.cboPlot13(0).Clear();
     for (int col = 1; col < periods.Cols(); ++col) form.cboPlot13(0).AddItem(periods.TextMatrix(0, col));
     form.cboPlot13(1).FillNumbers(NFYear, NXYear);
@@ -106,11 +107,12 @@ struct AgeYears {
 };
 
 AgeYears FisheryAgeYears() {
-  return {frmOutput->cboPlot4, frmOutput->Check4.IsChecked(), ResultTable(3), 0, 2};
+  return {frmOutput->cboPlot4, frmOutput->Check4.IsChecked(), ResultTable(kTableFisheryAge), 0, 2};
 }
 
 AgeYears SurveyAgeYears(int survey) {
-  return {frmOutput->cboPlot5b, frmOutput->Check5.IsChecked(), ResultTable(4), (survey - 1) * 4 * NYears, 3};
+  return {frmOutput->cboPlot5b, frmOutput->Check5.IsChecked(), ResultTable(kTableSurveyAge),
+          (survey - 1) * 4 * NYears, 3};
 }
 
 // Fills the list. Where it holds the year wanted, PlotIndex becomes the position of that year, from 1, and

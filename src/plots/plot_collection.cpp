@@ -236,7 +236,7 @@ int SurveyYearsObserved() {
   int years = 0;
   for (int survey = 0; survey < frmOutput->cboPlot5a.ListCount(); ++survey) {
     for (int year = 1; year <= NYears; ++year) {
-      if (HasObservedShare(ResultTable(4), survey * 4 * NYears + year, 3)) ++years;
+      if (HasObservedShare(ResultTable(kTableSurveyAge), survey * 4 * NYears + year, 3)) ++years;
     }
   }
   return years;

@@ -75,9 +75,4 @@ bool HasObservedShare(const Grid& shares, int row, int first_age_col) {
   return false;
 }
 
-std::string SurveyItem(int survey) {
-  const std::string plain = "Survey " + std::to_string(survey);
-  return SurvTitle(survey) == plain ? plain : plain + ": " + SurvTitle(survey);
-}
-
 }  // namespace tarnvik

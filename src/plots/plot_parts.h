@@ -60,8 +60,4 @@ void FinishChart(Chart& chart, int gallery, int marker_setting);
 // column on, of as many as there are ages, that is not "N/A" and above 0. A row beyond the table has none.
 bool HasObservedShare(const Grid& shares, int row, int first_age_col);
 
-// The name of a survey (from 1) in lists and titles: "Survey 2", or "Survey 2: Title" where it has a title of
-// its own.
-std::string SurveyItem(int survey);
-
 }  // namespace tarnvik

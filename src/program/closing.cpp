@@ -46,7 +46,7 @@ void frmInput_Form_QueryUnload(bool& cancel, UnloadMode mode) {
         return;
       }
       SaveDataFileAs();
-      if (frmInput->lblFile(0).Caption() != kNoneSelected) SaveParameterFileAs();
+      if (frmInput->lblFile(kFilePin).Caption() != kNoneSelected) SaveParameterFileAs();
       SaveControlFileAs();
       UnloadForm(frmPin);
       UnloadForm(frmInput);
@@ -87,7 +87,7 @@ void frmPin_Form_QueryUnload(bool& cancel, UnloadMode mode) {
   DisableCaseMenus();
   frmMain->mnuFileSavePinAs.SetEnabled(false);
   for (std::string* path : {&PinFilePath, &ReportPath, &StdPath, &ParPath}) path->clear();
-  ShowPath(frmInput->lblFile(0), kNoneSelected);
+  ShowPath(frmInput->lblFile(kFilePin), kNoneSelected);
 }
 
 }  // namespace tarnvik

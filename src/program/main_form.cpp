@@ -53,8 +53,8 @@ void frmMain_MDIForm_Load() {
   ReadSettingsFile();
 
   NameByDefault(frmInput->lblCTL, CtlFilePath, ".ctl");
-  NameByDefault(frmInput->lblFile(0), PinFilePath, ".pin");
-  NameByDefault(frmInput->lblFile(1), DatFilePath, ".dat");
+  NameByDefault(frmInput->lblFile(kFilePin), PinFilePath, ".pin");
+  NameByDefault(frmInput->lblFile(kFileDat), DatFilePath, ".dat");
   frmMain->mnuFileCreateData.SetEnabled(true);
   frmInput->cmdBrowse1.SetEnabled(true);
   frmInput->cmdBrowse2.SetEnabled(true);

@@ -23,31 +23,31 @@ constexpr auto kAgeTabs = &OutputDataForm::SSTab2;
 constexpr auto kTotalTabs = &OutputDataForm::SSTab3;
 
 const TablePlace kTables[] = {
-    {0, kMainTabs, kPageNumbers, "Estimated Numbers (000s) of Fish at Age"},
-    {1, kMainTabs, kPageAgeF, "Estimated Fishing Mortality"},
-    {3, kMainTabs, kPageFisheryAge, "Fishery Proportion at Age"},
-    {4, kMainTabs, kPageSurveyAge, "Survey Proportion at Age"},
-    {16, kMainTabs, kPageSampleSize, "Fishery Sample Size"},
-    {17, kMainTabs, kPageSampleSize, "Survey Sample Size"},
-    {6, kMainTabs, kPageRecruitment, "Recruitment (1000s of Age-1 Recruits)"},
-    {8, kMainTabs, kPageRecruitment, "Surplus Production (mt)"},
-    {7, kTotalTabs, 0, "Catch Biomass (mt)"},
-    {5, kTotalTabs, 1, "Biomass (mt)"},
-    {23, kAgeTabs, 0, "Catch Biomass at Age"},
-    {24, kAgeTabs, 1, "Population Biomass at Age"},
-    {25, kAgeTabs, 2, "Spawning Biomass at Age"},
-    {26, kAgeTabs, 3, "Exploitable Biomass at Age"},
-    {12, kMainTabs, kPageBiomassRatios, "Ratio of Annual Spawning Biomass to Target"},
-    {13, kMainTabs, kPageBiomassRatios, "Ratio of Annual Spawning Biomass to Limit"},
-    {20, kMainTabs, kPageUnfished, "Unfished Mean Spawning Weight"},
-    {21, kMainTabs, kPageUnfished, "Unfished Expected Spawnings"},
-    {22, kMainTabs, kPageUnfished, "Fraction of Unfished Spawning Biomass"},
-    {9, kMainTabs, kPageAverageF, "Estimated Average Annual Fishing Mortality"},
-    {10, kMainTabs, kPageFRatios, "Ratio of Annual F Mortality to Target"},
-    {11, kMainTabs, kPageFRatios, "Ratio of Annual F Mortality to Limit"},
-    {14, kMainTabs, kPageSelectivity, "Fishery Selectivity by Age"},
-    {15, kMainTabs, kPageSelectivity, "Survey Selectivity by Age"},
-    {19, kMainTabs, kPageSelectivity, "Fishery Selectivity at Age by Year"},
+    {kTableNumbers, kMainTabs, kPageNumbers, "Estimated Numbers (000s) of Fish at Age"},
+    {kTableAgeF, kMainTabs, kPageAgeF, "Estimated Fishing Mortality"},
+    {kTableFisheryAge, kMainTabs, kPageFisheryAge, "Fishery Proportion at Age"},
+    {kTableSurveyAge, kMainTabs, kPageSurveyAge, "Survey Proportion at Age"},
+    {kTableFisherySample, kMainTabs, kPageSampleSize, "Fishery Sample Size"},
+    {kTableSurveySample, kMainTabs, kPageSampleSize, "Survey Sample Size"},
+    {kTableRecruitment, kMainTabs, kPageRecruitment, "Recruitment (1000s of Age-1 Recruits)"},
+    {kTableSurplus, kMainTabs, kPageRecruitment, "Surplus Production (mt)"},
+    {kTableCatch, kTotalTabs, 0, "Catch Biomass (mt)"},
+    {kTableBiomass, kTotalTabs, 1, "Biomass (mt)"},
+    {kTableCatchAtAge, kAgeTabs, 0, "Catch Biomass at Age"},
+    {kTablePopulationAtAge, kAgeTabs, 1, "Population Biomass at Age"},
+    {kTableSpawningAtAge, kAgeTabs, 2, "Spawning Biomass at Age"},
+    {kTableExploitableAtAge, kAgeTabs, 3, "Exploitable Biomass at Age"},
+    {kTableTargetSsb, kMainTabs, kPageBiomassRatios, "Ratio of Annual Spawning Biomass to Target"},
+    {kTableLimitSsb, kMainTabs, kPageBiomassRatios, "Ratio of Annual Spawning Biomass to Limit"},
+    {kTableUnfishedWeight, kMainTabs, kPageUnfished, "Unfished Mean Spawning Weight"},
+    {kTableUnfishedSpawnings, kMainTabs, kPageUnfished, "Unfished Expected Spawnings"},
+    {kTableUnfishedFraction, kMainTabs, kPageUnfished, "Fraction of Unfished Spawning Biomass"},
+    {kTableAverageF, kMainTabs, kPageAverageF, "Estimated Average Annual Fishing Mortality"},
+    {kTableTargetF, kMainTabs, kPageFRatios, "Ratio of Annual F Mortality to Target"},
+    {kTableLimitF, kMainTabs, kPageFRatios, "Ratio of Annual F Mortality to Limit"},
+    {kTableFisherySelectivity, kMainTabs, kPageSelectivity, "Fishery Selectivity by Age"},
+    {kTableSurveySelectivity, kMainTabs, kPageSelectivity, "Survey Selectivity by Age"},
+    {kTableAnnualSelectivity, kMainTabs, kPageSelectivity, "Fishery Selectivity at Age by Year"},
 };
 
 // A single value and the caption beside it.
@@ -60,36 +60,36 @@ struct ValuePlace {
 // The two captions of spawning biomass stand the other way round than those of population biomass: users and
 // their papers know the page like this.
 const ValuePlace kRatios[] = {
-    {0, kPageBiomassTotals, "Ratio in Last Year"},
-    {1, kPageBiomassTotals, "Ratio in Last Yr Relative to Reference Yr"},
-    {2, kPageBiomassTotals, "Ratio in Last Yr Relative to Reference Yr"},
-    {3, kPageBiomassTotals, "Ratio in Last Year"},
-    {4, kPageAverageF, "Ratio of F in Last Year to F in First Year"},
-    {5, kPageAverageF, "Ratio of F in Last Year to F in Reference Year"},
-    {6, kPageAverageF, "Initial Equilibrium F Mort Prior to First Year"},
-    {7, kPageFRatios, "Target F:"},
-    {8, kPageFRatios, "Limit F:"},
-    {9, kPageBiomassRatios, "Target Spawning Biomass:"},
-    {10, kPageBiomassRatios, "Limit Spawning Biomass:"},
-    {11, kPageRecruitment, "Mean Recruitment"},
+    {kRatioPopulation, kPageBiomassTotals, "Ratio in Last Year"},
+    {kRatioPopulationRef, kPageBiomassTotals, "Ratio in Last Yr Relative to Reference Yr"},
+    {kRatioSpawningRef, kPageBiomassTotals, "Ratio in Last Yr Relative to Reference Yr"},
+    {kRatioSpawning, kPageBiomassTotals, "Ratio in Last Year"},
+    {kRatioF, kPageAverageF, "Ratio of F in Last Year to F in First Year"},
+    {kRatioFRef, kPageAverageF, "Ratio of F in Last Year to F in Reference Year"},
+    {kRatioInitialF, kPageAverageF, "Initial Equilibrium F Mort Prior to First Year"},
+    {kRatioTargetF, kPageFRatios, "Target F:"},
+    {kRatioLimitF, kPageFRatios, "Limit F:"},
+    {kRatioTargetSsb, kPageBiomassRatios, "Target Spawning Biomass:"},
+    {kRatioLimitSsb, kPageBiomassRatios, "Limit Spawning Biomass:"},
+    {kRatioMeanRec, kPageRecruitment, "Mean Recruitment"},
 };
 
 const ValuePlace kUnfishedValues[] = {
-    {0, kPageUnfished, "Unfished Mean Recruitment (1000s)"},
-    {1, kPageUnfished, "Unfished Spawning Biomass Per Recruit"},
-    {2, kPageUnfished, "Unfished Spawning Biomass"},
+    {kUnfishedMeanRec, kPageUnfished, "Unfished Mean Recruitment (1000s)"},
+    {kUnfishedPerRecruit, kPageUnfished, "Unfished Spawning Biomass Per Recruit"},
+    {kUnfishedSpawning, kPageUnfished, "Unfished Spawning Biomass"},
 };
 
 const ValuePlace kSummaryValues[] = {
-    {10, kPageLikelihood, "Objective Function Value:"},
-    {1, kPageLikelihood, "Recruitment Deviations"},
-    {4, kPageLikelihood, "Catch Biomass"},
-    {5, kPageLikelihood, "Fishing Mortality Deviations"},
-    {2, kPageLikelihood, "Fishery Age Composition"},
-    {3, kPageLikelihood, "Fishery Selectivity"},
-    {22, kPageRms, "Recruitment Dev."},
-    {23, kPageRms, "Catch Biomass"},
-    {24, kPageRms, "Fishing Mortality Dev."},
+    {kObjectiveFunction, kPageLikelihood, "Objective Function Value:"},
+    {kLikelihoodRecruitment, kPageLikelihood, "Recruitment Deviations"},
+    {kLikelihoodCatch, kPageLikelihood, "Catch Biomass"},
+    {kLikelihoodF, kPageLikelihood, "Fishing Mortality Deviations"},
+    {kLikelihoodFisheryAge, kPageLikelihood, "Fishery Age Composition"},
+    {kLikelihoodSelectivity, kPageLikelihood, "Fishery Selectivity"},
+    {kErrorRecruitment, kPageRms, "Recruitment Dev."},
+    {kErrorCatch, kPageRms, "Catch Biomass"},
+    {kErrorF, kPageRms, "Fishing Mortality Dev."},
 };
 
 // The tables of the last two pages, which have a caption beside them instead of a frame.
@@ -101,11 +101,11 @@ struct SummaryTable {
 };
 
 const SummaryTable kSummaryTables[] = {
-    {&OutputDataForm::MSFlexGrid1, 11, kPageLikelihood, "Survey Age Composition"},
-    {&OutputDataForm::MSFlexGrid2, 12, kPageLikelihood, "Survey Biomass Index"},
-    {&OutputDataForm::MSFlexGrid3, 3, kPageRms, "Survey Biomass Index"},
-    {&OutputDataForm::MSFlexGrid4, 4, kPageRms, "Fishery Age Composition"},
-    {&OutputDataForm::MSFlexGrid5, 5, kPageRms, "Survey Age Composition"},
+    {&OutputDataForm::MSFlexGrid1, kLabelLikelihoodSurveyAge, kPageLikelihood, "Survey Age Composition"},
+    {&OutputDataForm::MSFlexGrid2, kLabelLikelihoodIndex, kPageLikelihood, "Survey Biomass Index"},
+    {&OutputDataForm::MSFlexGrid3, kLabelErrorIndex, kPageRms, "Survey Biomass Index"},
+    {&OutputDataForm::MSFlexGrid4, kLabelErrorFisheryAge, kPageRms, "Fishery Age Composition"},
+    {&OutputDataForm::MSFlexGrid5, kLabelErrorSurveyAge, kPageRms, "Survey Age Composition"},
 };
 
 void PlaceValue(Label& caption, Label& value, Control& container, int page, const char* text) {
@@ -164,10 +164,10 @@ void OutputDataForm::Design() {
   }
   FrameCPUE.SetCaption("CPUE Biomass Index");
   FrameCPUE.SetContainer(&SSTab1, kPageCpue);
-  MSFlexGrid(18).SetContainer(&FrameCPUE);
+  MSFlexGrid(kTableCpue).SetContainer(&FrameCPUE);
   Frame3.SetCaption("Survey Biomass Index");
   Frame3.SetContainer(&SSTab1, kPageSurveyIndex);
-  MSFlexGrid(2).SetContainer(&Frame3);
+  MSFlexGrid(kTableSurveyIndex).SetContainer(&Frame3);
   cmbJumpSurvey.SetContainer(&SSTab1, kPageSurveyIndex);
   Combo1.SetContainer(&SSTab1, kPageFisheryAge);
   Combo2.SetContainer(&SSTab1, kPageSurveyAge);
@@ -187,8 +187,8 @@ void OutputDataForm::Design() {
   for (const ValuePlace& place : kSummaryValues) {
     PlaceValue(lblSummCaption(place.index), lblSumm(place.index), SSTab1, place.page, place.caption);
   }
-  PlaceValue(LabelCPUE1, lblSumm(6), SSTab1, kPageLikelihood, "CPUE Biomass Index");
-  PlaceValue(LabelCPUE2, lblSumm(25), SSTab1, kPageRms, "CPUE Biomass Index");
+  PlaceValue(LabelCPUE1, lblSumm(kLikelihoodCpue), SSTab1, kPageLikelihood, "CPUE Biomass Index");
+  PlaceValue(LabelCPUE2, lblSumm(kErrorCpue), SSTab1, kPageRms, "CPUE Biomass Index");
   for (const SummaryTable& table : kSummaryTables) {
     Label8(table.label).SetCaption(table.caption);
     Label8(table.label).SetContainer(&SSTab1, table.page);
@@ -224,12 +224,16 @@ void frmOutputData_Form_Unload() {
 }
 
 void frmOutputData_cmbJumpSurvey_Click(int) {
-  JumpToBlock(frmOutputData->cmbJumpSurvey, frmOutputData->MSFlexGrid(2));
+  JumpToBlock(frmOutputData->cmbJumpSurvey, frmOutputData->MSFlexGrid(kTableSurveyIndex));
 }
 
-void frmOutputData_Combo1_Click(int) { JumpToBlock(frmOutputData->Combo1, frmOutputData->MSFlexGrid(3)); }
+void frmOutputData_Combo1_Click(int) {
+  JumpToBlock(frmOutputData->Combo1, frmOutputData->MSFlexGrid(kTableFisheryAge));
+}
 
-void frmOutputData_Combo2_Click(int) { JumpToBlock(frmOutputData->Combo2, frmOutputData->MSFlexGrid(4)); }
+void frmOutputData_Combo2_Click(int) {
+  JumpToBlock(frmOutputData->Combo2, frmOutputData->MSFlexGrid(kTableSurveyAge));
+}
 
 void ResultGridKeyDown(Grid& grid, int code, bool control) {
   if (!control) return;

@@ -32,6 +32,86 @@ enum OutputDataTab : int {
   kPageRms
 };
 
+// Tables of MSFlexGrid, by what they hold; how each is shaped stands in result_tables.cpp.
+enum ResultTableId : int {
+  kTableNumbers = 0,  // by year and age, like 1, 19 and 23 to 26
+  kTableAgeF = 1,
+  kTableSurveyIndex = 2,  // all years of one survey after the other
+  kTableFisheryAge = 3,   // observed, predicted, residuals, standardized residuals: a block of years each
+  kTableSurveyAge = 4,    // the blocks of table 3, survey by survey
+  kTableBiomass = 5,      // population, spawning and exploitable, by year
+  kTableRecruitment = 6,
+  kTableCatch = 7,
+  kTableSurplus = 8,
+  kTableAverageF = 9,
+  kTableTargetF = 10,  // ratios by year, like 11 to 13
+  kTableLimitF = 11,
+  kTableTargetSsb = 12,
+  kTableLimitSsb = 13,
+  kTableFisherySelectivity = 14,  // by age and period
+  kTableSurveySelectivity = 15,   // by age and survey
+  kTableFisherySample = 16,
+  kTableSurveySample = 17,
+  kTableCpue = 18,
+  kTableAnnualSelectivity = 19,
+  kTableUnfishedWeight = 20,
+  kTableUnfishedSpawnings = 21,
+  kTableUnfishedFraction = 22,
+  kTableCatchAtAge = 23,
+  kTablePopulationAtAge = 24,
+  kTableSpawningAtAge = 25,
+  kTableExploitableAtAge = 26,
+};
+
+// Single values of lblRatioCaption, lblRatio and, for the first six, lblRatioStdDev.
+enum RatioItem : int {
+  kRatioPopulation = 0,     // last year to the first
+  kRatioPopulationRef = 1,  // last year to the reference year
+  kRatioSpawningRef = 2,
+  kRatioSpawning = 3,
+  kRatioF = 4,
+  kRatioFRef = 5,
+  kRatioInitialF = 6,
+  kRatioTargetF = 7,
+  kRatioLimitF = 8,
+  kRatioTargetSsb = 9,
+  kRatioLimitSsb = 10,
+  kRatioMeanRec = 11,
+};
+
+// Single values of lblUnfishedCaption and lblUnfished.
+enum UnfishedItem : int {
+  kUnfishedMeanRec = 0,
+  kUnfishedPerRecruit = 1,
+  kUnfishedSpawning = 2,
+};
+
+// Single values of lblSummCaption and lblSumm: likelihood components, objective function, root mean square
+// errors.
+enum SummaryItem : int {
+  kLikelihoodRecruitment = 1,
+  kLikelihoodFisheryAge = 2,
+  kLikelihoodSelectivity = 3,
+  kLikelihoodCatch = 4,
+  kLikelihoodF = 5,
+  kLikelihoodCpue = 6,
+  kObjectiveFunction = 10,
+  kErrorRecruitment = 22,
+  kErrorCatch = 23,
+  kErrorF = 24,
+  kErrorCpue = 25,
+};
+
+// Captions of Label8, beside the tables of the last two pages: MSFlexGrid3 to MSFlexGrid5, MSFlexGrid1,
+// MSFlexGrid2.
+enum SummaryLabel : int {
+  kLabelErrorIndex = 3,
+  kLabelErrorFisheryAge = 4,
+  kLabelErrorSurveyAge = 5,
+  kLabelLikelihoodSurveyAge = 11,
+  kLabelLikelihoodIndex = 12,
+};
+
 struct OutputDataForm : Form {
   OutputDataForm();
   void Load() override;    // frmOutputData_Form_Load
@@ -55,27 +135,19 @@ struct OutputDataForm : Form {
   ComboBox Combo1{this, "Combo1"};
   ComboBox Combo2{this, "Combo2"};
 
-  // 0 and 1 population, 2 and 3 spawning biomass: ratio in the last year, and relative to the reference year;
-  // 4 F in the last year to the first, 5 to the reference year; 6 initial equilibrium F; 7 target F, 8 limit
-  // F, 9 target and 10 limit spawning biomass; 11 mean recruitment.
   ControlArray<Label> lblRatioCaption{this, "lblRatioCaption", {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11}};
   ControlArray<Label> lblRatio{this, "lblRatio", {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11}};
   ControlArray<Label> lblRatioStdDev{this, "lblRatioStdDev", {0, 1, 2, 3, 4, 5}};
   // Around the two ratios of population and of spawning biomass, whose captions are alike.
   ControlArray<Frame> FrameRatio{this, "FrameRatio", {0, 1}};
 
-  // 0 mean recruitment, 1 spawning biomass per recruit, 2 spawning biomass.
   ControlArray<Label> lblUnfishedCaption{this, "lblUnfishedCaption", {0, 1, 2}};
   ControlArray<Label> lblUnfished{this, "lblUnfished", {0, 1, 2}};
 
-  // Likelihood components: 1 recruitment, 2 fishery ages, 3 fishery selectivity, 4 catch, 5 F, 6 CPUE; 10
-  // objective function. Root mean square errors: 22 recruitment, 23 catch, 24 F, 25 CPUE.
   ControlArray<Label> lblSummCaption{this, "lblSummCaption", {1, 2, 3, 4, 5, 10, 22, 23, 24}};
   Label LabelCPUE1{this, "LabelCPUE1"};  // the caption of lblSumm(6)
   Label LabelCPUE2{this, "LabelCPUE2"};  // the caption of lblSumm(25)
   ControlArray<Label> lblSumm{this, "lblSumm", {1, 2, 3, 4, 5, 6, 10, 22, 23, 24, 25}};
-  // Captions beside the five tables of these two pages: 11 MSFlexGrid1, 12 MSFlexGrid2, 3 to 5 the other
-  // three.
   ControlArray<Label> Label8{this, "Label8", {3, 4, 5, 11, 12}};
   Grid MSFlexGrid1{this, "MSFlexGrid1"};  // likelihood of survey ages
   Grid MSFlexGrid2{this, "MSFlexGrid2"};  // likelihood of survey indices

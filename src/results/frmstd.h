@@ -7,6 +7,26 @@
 
 namespace tarnvik {
 
+// Tables of MSFlexGrid.
+enum ParameterTableId : int {
+  kTableRecDevs = 0,
+  kTableFDevs = 1,
+  kTableFisheryParameters = 2,  // by curve parameter or age; a pair of columns for each period
+  kTableSurveyParameters = 3,   // a pair of columns for each survey
+  kTableMMultiplier = 4,
+  kTableMAtAge = 5,
+};
+
+// Single values: lbl1, lblEst, lblStd.
+enum PointEstimate : int {
+  kPointM = 0,
+  kPointLogRec = 1,
+  kPointLogF = 2,  // log of average F
+  kPointCpueQ = 3,
+  kPointCpueExponent = 4,
+  kPointMeanRec = 5,
+};
+
 struct StdForm : Form {
   StdForm();
   void Load() override;    // frmSTD_Form_Load
@@ -18,13 +38,11 @@ struct StdForm : Form {
 
   Frame FramePoint{this, "FramePoint"};
   ControlArray<Label> lblHeading{this, "lblHeading", {0, 1, 2}};  // the headings of the three columns below
-  // 0 M, 1 mean log recruitment, 2 log of average F, 3 CPUE q, 4 CPUE exponent, 5 mean recruitment.
   ControlArray<Label> lbl1{this, "lbl1", {0, 1, 2, 3, 4, 5}};
   ControlArray<Label> lblEst{this, "lblEst", {0, 1, 2, 3, 4, 5}};
   ControlArray<Label> lblStd{this, "lblStd", {0, 1, 2, 3, 4, 5}};
 
-  // 0 recruitment deviations, 1 F deviations, 2 fishery selectivity parameters, 3 survey parameters, 4 M
-  // multiplier, 5 M at age; the frame of a table has its index.
+  // The frame of a table has its index.
   ControlArray<Frame> FrameGrid{this, "FrameGrid", {0, 1, 2, 3, 4, 5}};
   ControlArray<Grid> MSFlexGrid{this, "MSFlexGrid", {0, 1, 2, 3, 4, 5}};
 

@@ -36,45 +36,47 @@ struct TableDesign {
 };
 
 const TableDesign kResultTables[] = {
-    {1, Down::Years, {"Year"}, Across::Ages},
-    {5,
+    {kTableAgeF, Down::Years, {"Year"}, Across::Ages},
+    {kTableBiomass,
      Down::Years,
      {"Year", "Population Biomass", "Population Biomass Std Dev", "Spawning Biomass",
       "Spawning Biomass Std Dev", "Exploitable Biomass", "Exploitable Biomass Std Dev"}},
-    {6,
+    {kTableRecruitment,
      Down::RecruitYearsRead,
      {"Year", "Recruitment", "Standard Deviations", "Standardized Log-Scale Residuals"}},
-    {7, Down::Years, {"Year", "Observed", "Predicted", "Residuals", "Standarized Log-Scale Resid."}},
-    {8, Down::YearsButLast, {"Year", "Surplus Production", "Std Dev."}},
-    {9, Down::Years, {"Year", "Estimated Avg. F", "Std Dev", "Standarized Log-Scale Resid."}},
-    {10, Down::Years, {"Year", "Ratio", "Std Dev"}, Across::Nothing, true},
-    {11, Down::Years, {"Year", "Ratio", "Std Dev"}, Across::Nothing, true},
-    {12, Down::Years, {"Year", "Ratio", "Std Dev"}, Across::Nothing, true},
-    {13, Down::Years, {"Year", "Ratio", "Std Dev"}, Across::Nothing, true},
-    {14, Down::Ages, {""}, Across::Periods},
-    {15, Down::Ages, {""}, Across::Surveys},
-    {16, Down::FisheryAgeYears, {"Year", "Input", "Estimated"}},
-    {17, Down::Years, {"Year"}, Across::SurveySamples, true},
-    {18,
+    {kTableCatch,
+     Down::Years,
+     {"Year", "Observed", "Predicted", "Residuals", "Standarized Log-Scale Resid."}},
+    {kTableSurplus, Down::YearsButLast, {"Year", "Surplus Production", "Std Dev."}},
+    {kTableAverageF, Down::Years, {"Year", "Estimated Avg. F", "Std Dev", "Standarized Log-Scale Resid."}},
+    {kTableTargetF, Down::Years, {"Year", "Ratio", "Std Dev"}, Across::Nothing, true},
+    {kTableLimitF, Down::Years, {"Year", "Ratio", "Std Dev"}, Across::Nothing, true},
+    {kTableTargetSsb, Down::Years, {"Year", "Ratio", "Std Dev"}, Across::Nothing, true},
+    {kTableLimitSsb, Down::Years, {"Year", "Ratio", "Std Dev"}, Across::Nothing, true},
+    {kTableFisherySelectivity, Down::Ages, {""}, Across::Periods},
+    {kTableSurveySelectivity, Down::Ages, {""}, Across::Surveys},
+    {kTableFisherySample, Down::FisheryAgeYears, {"Year", "Input", "Estimated"}},
+    {kTableSurveySample, Down::Years, {"Year"}, Across::SurveySamples, true},
+    {kTableCpue,
      Down::Years,
      {"Year", "Observed", "Predicted", "Residuals", "Log-Scale Resid.", "Std. Log-Scale Resid."},
      Across::Nothing,
      true},
-    {19, Down::Years, {"Year"}, Across::Ages},
-    {20, Down::Ages, {"", "Weight"}},
-    {21, Down::Ages, {"", "Weight"}},
-    {22, Down::Years, {"", "Fraction"}},
-    {23, Down::Years, {"Year"}, Across::Ages},
-    {24, Down::Years, {"Year"}, Across::Ages},
-    {25, Down::Years, {"Year"}, Across::Ages},
-    {26, Down::Years, {"Year"}, Across::Ages},
+    {kTableAnnualSelectivity, Down::Years, {"Year"}, Across::Ages},
+    {kTableUnfishedWeight, Down::Ages, {"", "Weight"}},
+    {kTableUnfishedSpawnings, Down::Ages, {"", "Weight"}},
+    {kTableUnfishedFraction, Down::Years, {"", "Fraction"}},
+    {kTableCatchAtAge, Down::Years, {"Year"}, Across::Ages},
+    {kTablePopulationAtAge, Down::Years, {"Year"}, Across::Ages},
+    {kTableSpawningAtAge, Down::Years, {"Year"}, Across::Ages},
+    {kTableExploitableAtAge, Down::Years, {"Year"}, Across::Ages},
 };
 
 const TableDesign kParameterTables[] = {
-    {0, Down::RecruitYears, {"Year", "Rec. Dev.", "Std. Dev."}},
-    {1, Down::Years, {"Year", "F Mort. Dev.", "Std. Dev."}},
-    {4, Down::Ages, {"", "M-mult"}, Across::Nothing, true},
-    {5, Down::Ages, {"", "M"}, Across::Nothing, true},
+    {kTableRecDevs, Down::RecruitYears, {"Year", "Rec. Dev.", "Std. Dev."}},
+    {kTableFDevs, Down::Years, {"Year", "F Mort. Dev.", "Std. Dev."}},
+    {kTableMMultiplier, Down::Ages, {"", "M-mult"}, Across::Nothing, true},
+    {kTableMAtAge, Down::Ages, {"", "M"}, Across::Nothing, true},
 };
 
 const Texts kBlocks = {"Observed", "Predicted", "Residuals", "Std. Resid."};
@@ -252,16 +254,16 @@ Grid& ParameterTable(int table) { return frmSTD->MSFlexGrid(table); }
 Grid& PrepareResultTable(int table) {
   Grid& grid = ResultTable(table);
   switch (table) {
-    case 0:
+    case kTableNumbers:
       PrepareNumbers(grid);
       break;
-    case 2:
+    case kTableSurveyIndex:
       PrepareSurveyIndex(grid);
       break;
-    case 3:
+    case kTableFisheryAge:
       PrepareFisheryAges(grid);
       break;
-    case 4:
+    case kTableSurveyAge:
       PrepareSurveyAges(grid);
       break;
     default:
@@ -275,10 +277,10 @@ Grid& PrepareResultTable(int table) {
 Grid& PrepareParameterTable(int table) {
   Grid& grid = ParameterTable(table);
   switch (table) {
-    case 2:
+    case kTableFisheryParameters:
       PrepareFisherySelectivityParameters(grid);
       break;
-    case 3:
+    case kTableSurveyParameters:
       PrepareSurveyParameters(grid);
       break;
     default:

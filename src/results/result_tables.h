@@ -2,6 +2,8 @@
 #pragma once
 
 #include "platform/grid.h"
+#include "results/frmoutputdata.h"
+#include "results/frmstd.h"
 
 namespace tarnvik {
 

@@ -1,5 +1,6 @@
 #include "inputedit/dimensions.h"
 
+#include "inputedit/general_combos.h"
 #include "inputedit/small_case.h"
 #include "platform/runtime_error.h"
 

@@ -1,6 +1,8 @@
 #include "inputedit/grids.h"
 
 #include "inputedit/dimensions.h"
+#include "inputedit/general_combos.h"
+#include "inputedit/labels.h"
 #include "inputedit/period_case.h"
 #include "inputedit/surveys.h"
 #include "platform/runtime_error.h"
